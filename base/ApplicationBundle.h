@@ -1,0 +1,20 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace launcher {
+
+/// Where the running application lies. Any thread.
+class ApplicationBundle {
+ public:
+  virtual ~ApplicationBundle() = default;
+
+  /// The bundle's own path, symbolic links resolved, without a trailing separator.
+  virtual std::string path() const = 0;
+
+  /// The path of the resource folder without a trailing separator, or absent.
+  virtual std::optional<std::string> resourcePath() const = 0;
+};
+
+}  // namespace launcher

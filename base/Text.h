@@ -1,0 +1,46 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// Questions about Unicode texts. Texts are UTF-8; an ill-formed sequence counts as U+FFFD.
+/// A NUL is a character like any other. No state; any thread.
+namespace launcher {
+
+/// The number of user-perceived characters (extended grapheme clusters).
+///
+///     characterCount("abc")         -> 3
+///     characterCount("e\u0301")     -> 1     a letter and its combining accent
+///     characterCount("\r\n")        -> 1
+std::size_t characterCount(std::string_view text);
+
+/// The canonical decomposition (NFD).
+std::string canonicallyDecomposed(std::string_view text);
+
+/// The text in UTF-16, in the machine's byte order.
+std::u16string utf16(std::string_view text);
+
+/// The text of UTF-16 units; a lone surrogate becomes U+FFFD.
+std::string utf8(std::u16string_view units);
+
+/// The bytes as well-formed UTF-8, each ill-formed sequence replaced by U+FFFD.
+std::string repairedUtf8(std::string_view bytes);
+
+/// Whether all bytes are below 0x80.
+bool isAscii(std::string_view text);
+
+/// Whether the bytes are well-formed UTF-8.
+bool isUtf8(std::string_view bytes);
+
+/// Whether two texts are equal: byte by byte where both are ASCII, else canonically equivalent.
+/// Case counts.
+///
+///     canonicallyEqual("\u00e9", "e\u0301")   -> true
+bool canonicallyEqual(std::string_view a, std::string_view b);
+
+/// Whether `text` begins with `prefix`: byte by byte where both are ASCII, else in their canonical
+/// decompositions. Case counts; the empty prefix always passes.
+bool hasCanonicalPrefix(std::string_view text, std::string_view prefix);
+
+}  // namespace launcher

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace launcher {
+
+/// A URL, kept as its absolute text. A value; any thread.
+class Url {
+ public:
+  /// The URL that a text spells, or absent where the text is not a valid URL (the empty text, a
+  /// blank or a non-ASCII character inside, a bad escape). The text's form is kept.
+  static std::optional<Url> parse(std::string_view text);
+
+  /// The file URL of a path that is not a folder. Bytes that a URL cannot hold are escaped.
+  ///
+  ///     Url::ofFile("/a b/c.dmg")   -> file:///a%20b/c.dmg
+  static Url ofFile(std::string_view path);
+
+  /// The scheme without its colon, in the case in which it was given; absent where there is none.
+  std::optional<std::string> scheme() const;
+
+  /// The host name without port or credentials, escapes decoded; absent where there is none. An
+  /// IPv6 host comes without its brackets.
+  std::optional<std::string> host() const;
+
+  /// The path's bytes with escapes decoded, without a trailing separator (the root stays "/").
+  std::string filePath() const;
+
+  /// The URL with the last component of its path removed; query, fragment, port and credentials
+  /// stay, and "%2F" is no separator.
+  ///
+  ///     https://h/D/F     -> https://h/D/
+  ///     https://h/dir/    -> https://h/
+  ///     https://h         -> https://h
+  Url deletingLastPathComponent() const;
+
+  /// The whole URL as text.
+  const std::string& absoluteString() const { return text_; }
+
+  friend bool operator==(const Url&, const Url&) = default;
+
+ private:
+  explicit Url(std::string text) : text_(std::move(text)) {}
+
+  std::string text_;
+};
+
+}  // namespace launcher

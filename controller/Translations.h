@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "controller/Texts.h"
+
+namespace launcher {
+
+/// Looks shown texts up in the main bundle's default strings table. Any thread.
+class Translations {
+ public:
+  virtual ~Translations() = default;
+
+  /// The text in the person's language; the key itself where there is no translation.
+  virtual std::string operator()(const Text& text) const = 0;
+};
+
+}  // namespace launcher

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "base/ApplicationBundle.h"
+
+namespace launcher {
+
+/// One run of the platform's tool that lists the attached disk images as a property list, its
+/// output and error streams joined in one pipe.
+class ListingTool {
+ public:
+  using OutputHandler = std::function<void(std::string_view bytes)>;
+  using ExitHandler = std::function<void()>;
+
+  virtual ~ListingTool() = default;
+
+  /// Calls `handler` on a thread of its own with each piece of output as it comes. The empty
+  /// handler removes it: once this returns no call is under way and none follows.
+  virtual void setOutputHandler(OutputHandler handler) = 0;
+
+  /// Calls `handler` once on a thread of its own after the tool has ended.
+  virtual void setExitHandler(ExitHandler handler) = 0;
+
+  /// Starts the tool. False where that is impossible; then no handler is ever called.
+  virtual bool launch() = 0;
+
+  /// Blocks until the tool has ended; the exit handler may still be running.
+  virtual void waitUntilExit() = 0;
+};
+
+/// Makes one run of the tool, not yet started.
+using ListingToolMaker = std::function<std::shared_ptr<ListingTool>()>;
+
+/// The platform's own tool; `bundle` must outlive the maker.
+ListingToolMaker makeListingToolMaker(const ApplicationBundle& bundle);
+
+}  // namespace launcher

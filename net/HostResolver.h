@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace launcher {
+
+/// A socket address as the resolver gave it: the bytes of a `sockaddr` of its family.
+using SocketAddress = std::vector<std::byte>;
+
+/// Asks the platform for the addresses of a host.
+class HostResolver {
+ public:
+  virtual ~HostResolver() = default;
+
+  /// The host's addresses in the resolver's order, or absent where it knows none. The name is
+  /// passed on as it stands. Blocks for as long as the resolver takes; any thread but the main one.
+  virtual std::optional<std::vector<SocketAddress>> addresses(const std::string& host) const = 0;
+};
+
+std::unique_ptr<HostResolver> makeHostResolver();
+
+}  // namespace launcher

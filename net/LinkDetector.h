@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string_view>
+
+#include "base/Url.h"
+
+namespace launcher {
+
+/// A link found in a text. Location and length count UTF-16 units.
+struct LinkMatch {
+  std::optional<Url> url;
+  std::size_t location = 0;
+  std::size_t length = 0;
+};
+
+/// Finds web links in free text. No state; any thread.
+class LinkDetector {
+ public:
+  virtual ~LinkDetector() = default;
+
+  /// The first link in the first `length` UTF-16 units of `text`, or absent, also where the
+  /// platform cannot make a detector. `length` is at most the text's own.
+  ///
+  ///     "see https://h.example/a."   -> https://h.example/a   at 4, 19 units
+  ///     "h.example.com"              -> http://h.example.com  at 0, 13 units
+  virtual std::optional<LinkMatch> firstMatch(std::u16string_view text,
+                                              std::size_t length) const = 0;
+};
+
+std::unique_ptr<LinkDetector> makeLinkDetector();
+
+}  // namespace launcher
