@@ -2,14 +2,14 @@
 # questions there. Folders are relative to the room.
 
 if(APPLE)
-  set(BASE_PLATFORM_SOURCES Sleeper_mac.mm Text_mac.mm Url_mac.mm)
+  set(BASE_PLATFORM_SOURCES Sleeper_mac.mm UnicodeRules_mac.mm Url_mac.mm)
   set(PROCESS_PLATFORM_SOURCES ProcessTable_mac.cpp ProgramStarter_mac.mm)
   set(NET_PLATFORM_SOURCES HostResolver_mac.cpp LinkDetector_mac.mm)
   set(DISCOVERY_PLATFORM_SOURCES
     DoneSignal_mac.cpp ListingTool_mac.mm OriginAttribute_mac.cpp PropertyList_mac.mm)
   set(CONTROLLER_PLATFORM_SOURCES OperationQueues_mac.mm)
 else()
-  set(BASE_PLATFORM_SOURCES Sleeper_linux.cpp)
+  set(BASE_PLATFORM_SOURCES Sleeper_linux.cpp UnicodeRules_linux.cpp)
   set(PROCESS_PLATFORM_SOURCES ProcessTable_linux.cpp ProgramStarter_linux.cpp)
   set(NET_PLATFORM_SOURCES HostResolver_linux.cpp LinkDetector_linux.cpp)
   set(DISCOVERY_PLATFORM_SOURCES
