@@ -26,11 +26,14 @@ struct SpawnOptions {
   std::string path;                    ///< the executable; no search along PATH
   std::vector<std::string> arguments;  ///< without the program's own name; cut at a NUL
   int output = -1;                     ///< descriptor for both output streams; -1: inherited
-  std::function<void()> onExit;        ///< runs once on a thread of its own, after the reaping
+  std::function<void()> onExit;        ///< runs once on a thread of its own, after the reaping;
+                                       ///< must not throw
 };
 
-/// Starts a program. It inherits the standard three descriptors and nothing else, with no signal
-/// blocked and all at their defaults.
+/// Starts a program. It inherits the environment and, of the descriptors, the standard three; no
+/// signal is blocked there, none ignored. Any thread.
+///
+///     spawn({.path = "/bin/sleep", .arguments = {"5"}})->waitUntilExit();
 ///
 /// Null where the program cannot be started (missing, not executable, no process, thread or memory
 /// left); then nothing runs and `onExit` is never called.
