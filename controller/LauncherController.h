@@ -87,7 +87,11 @@ class LauncherController {
   void lookUpAndLaunch(const std::string& host, const std::string& manualIP);
   void launched();
   void lookupFailed(const std::string& host);
-  bool viewerRuns() const;
+
+  void showIpAddressColour(const std::string& ip, bool acceptable);
+  LaunchState offerLaunch();
+  LaunchState refuseLaunch();
+  ProcessId runningViewer() const;
 
   LauncherWindow& window_;
   WorkQueue& background_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "controller/LaunchState.h"
@@ -38,5 +39,10 @@ inline constexpr Text ok{"OK", "OK button"};
 
 /// The status line of a state.
 const Text& statusText(LaunchState state);
+
+/// The format with its first "%@" replaced by the value.
+///
+///     filledIn("no '%@'", "h%@")   -> "no 'h%@'"
+std::string filledIn(std::string_view format, std::string_view value);
 
 }  // namespace launcher
