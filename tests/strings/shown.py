@@ -1,0 +1,37 @@
+"""What the program shows: the texts of its code and of its layout files."""
+
+import re
+import xml.etree.ElementTree
+
+_LITERALS = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'
+_TEXT = re.compile(rf"\bText\s+\w+\s*{{\s*{_LITERALS},\s*{_LITERALS}}}")
+_LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
+
+# Placeholders are left out: they are example addresses, the same in every language.
+_SHOWN_ATTRIBUTES = ["title", "toolTip", "label"]
+_SPOKEN_ATTRIBUTES = ["description", "help"]
+
+
+def _joined(literals):
+    return re.sub(r"\\(.)", r"\1", "".join(_LITERAL.findall(literals)))
+
+
+def texts_of_code(source):
+    """Key → translators' comment, of every Text that the source defines."""
+    return {_joined(key): _joined(comment) for key, comment in _TEXT.findall(source)}
+
+
+def _texts_of(element):
+    if element.get("systemMenu") == "main":  # the menu bar: its own title is never shown
+        return []
+    if element.tag == "accessibility":
+        return [element.get(name) for name in _SPOKEN_ATTRIBUTES]
+    if element.tag == "userDefinedRuntimeAttribute":
+        return [element.get("value")] if "accessibility" in element.get("keyPath", "") else []
+    return [element.get(name) for name in _SHOWN_ATTRIBUTES]
+
+
+def texts_of_layout(xib):
+    """The keys of the texts that a layout file shows or has spoken."""
+    elements = xml.etree.ElementTree.fromstring(xib).iter()
+    return {text for element in elements for text in _texts_of(element) if text}
