@@ -1,0 +1,26 @@
+# Sourced by every script, after it has gone to the project's root: how the scripts speak.
+
+say() { printf '%s\n' "$*"; }
+
+fail() {
+  printf 'script/%s: %s\n' "$(basename "$0")" "$*" >&2
+  exit 1
+}
+
+# Prints the comment that a script opens with.
+help() { sed -n '2,/^[^#]/s/^# \{0,1\}//p' "script/$(basename "$0")"; }
+
+case " $* " in
+  *" --help "* | *" -h "*)
+    help
+    exit 0
+    ;;
+esac
+
+case "$(uname -s)" in
+  Linux) platform=linux ;;
+  Darwin) platform=macos ;;
+  *) fail "this system is neither Linux nor macOS" ;;
+esac
+# shellcheck disable=SC2034  # the sourcing scripts read it
+readonly platform

@@ -1,0 +1,1 @@
+"""What the launcher needs around it to be shown: a display, a download, a mounted image."""

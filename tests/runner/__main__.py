@@ -1,0 +1,38 @@
+"""Builds and runs the named test suites, or all of them; see script/test."""
+
+import sys
+import time
+
+from project import ROOT
+from report import FAILED, SKIPPED, Report, Result, Unable
+from suites import SUITES
+
+sys.path.insert(0, str(ROOT / "script" / "lib"))
+
+
+def run(name):
+    """A suite's results. One that cannot run here is skipped, one that cannot start has failed."""
+    try:
+        return SUITES[name].run()
+    except Unable as reason:
+        return [Result("all of it", SKIPPED, str(reason))]
+    except Exception as error:
+        return [Result("all of it", FAILED, f"{type(error).__name__}: {error}")]
+
+
+def main(names):
+    unknown = [name for name in names if name not in SUITES]
+    if unknown:
+        print(f"script/test: no suite is named '{unknown[0]}'; there are: {', '.join(SUITES)}",
+              file=sys.stderr)
+        return 2
+
+    report = Report()
+    for name in names or SUITES:
+        start = time.monotonic()
+        report.add(name, run(name), time.monotonic() - start)
+    print(report.closing_line())
+    return 0 if report.succeeded() else 1
+
+
+sys.exit(main(sys.argv[1:]))

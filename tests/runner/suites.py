@@ -1,0 +1,14 @@
+"""The suites by name, in the order in which they run."""
+
+import lint
+from googletest import GoogleTestSuite
+from pythontests import PythonSuite
+
+SUITES = {
+    "lint": lint,
+    "unit": GoogleTestSuite("unit-tests"),
+    "contract": GoogleTestSuite("contract-tests", isolated=True),
+    "window": GoogleTestSuite("window-tests", isolated=True, display=True),
+    "e2e": PythonSuite("tests/e2e", targets=["all"],
+                       isolated=True, display=True),
+}
