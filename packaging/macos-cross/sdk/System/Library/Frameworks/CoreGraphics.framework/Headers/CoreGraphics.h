@@ -1,0 +1,32 @@
+#pragma once
+
+#include <CoreFoundation/CoreFoundation.h>
+
+typedef double CGFloat;
+
+struct CGPoint {
+  CGFloat x;
+  CGFloat y;
+};
+typedef struct CGPoint CGPoint;
+
+struct CGSize {
+  CGFloat width;
+  CGFloat height;
+};
+typedef struct CGSize CGSize;
+
+struct CGRect {
+  CGPoint origin;
+  CGSize size;
+};
+typedef struct CGRect CGRect;
+
+typedef struct CGColor* CGColorRef;
+typedef int32_t CGWindowLevel;
+typedef int32_t CGWindowLevelKey;
+
+enum : CGWindowLevelKey { kCGFloatingWindowLevelKey = 5 };
+
+CF_EXPORT CGWindowLevel CGWindowLevelForKey(CGWindowLevelKey key);
+CF_EXPORT bool CGColorEqualToColor(CGColorRef a, CGColorRef b);

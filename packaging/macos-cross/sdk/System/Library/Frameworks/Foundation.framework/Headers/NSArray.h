@@ -1,0 +1,17 @@
+#pragma once
+
+#import <Foundation/NSObject.h>
+
+FOUNDATION_EXPORT @interface NSArray<__covariant ObjectType> : NSObject <NSCopying, NSFastEnumeration>
++ (instancetype)array;
++ (instancetype)arrayWithObjects:(const ObjectType[])objects count:(NSUInteger)count;
+@property(readonly) NSUInteger count;
+@property(readonly) ObjectType firstObject;
+- (ObjectType)objectAtIndex:(NSUInteger)index;
+- (ObjectType)objectAtIndexedSubscript:(NSUInteger)index;
+@end
+
+FOUNDATION_EXPORT @interface NSMutableArray<ObjectType> : NSArray<ObjectType>
++ (instancetype)arrayWithCapacity:(NSUInteger)capacity;
+- (void)addObject:(ObjectType)object;
+@end

@@ -1,0 +1,14 @@
+#pragma once
+
+#import <Foundation/NSObject.h>
+
+@class NSString;
+
+__attribute__((objc_exception)) FOUNDATION_EXPORT @interface NSException : NSObject
+@property(readonly, copy) NSString* name;
+@property(readonly, copy) NSString* reason;
+@end
+
+FOUNDATION_EXPORT @interface NSError : NSObject
+@property(readonly, copy) NSString* localizedDescription;
+@end

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <Availability.h>
+#include <CoreFoundation/CoreFoundation.h>
+#include <objc/NSObject.h>
+#include <stdbool.h>
+
+#if defined(__cplusplus)
+#define FOUNDATION_EXPORT extern "C"
+#else
+#define FOUNDATION_EXPORT extern
+#endif
+
+#define NS_ENUM(type, name) enum name : type name; enum name : type
+#define NS_OPTIONS(type, name) enum name : type name; enum name : type
+
+typedef double NSTimeInterval;
+
+typedef struct _NSRange {
+  NSUInteger location;
+  NSUInteger length;
+} NSRange;
+
+static const NSInteger NSNotFound = __LONG_MAX__;
+
+static inline NSRange NSMakeRange(NSUInteger location, NSUInteger length) {
+  NSRange range = {location, length};
+  return range;
+}
+
+@class NSCoder;
+
+@protocol NSCopying
+- (id)copyWithZone:(struct _NSZone*)zone;
+@end
+
+@protocol NSCoding
+- (void)encodeWithCoder:(NSCoder*)coder;
+- (instancetype)initWithCoder:(NSCoder*)coder;
+@end
+
+typedef struct {
+  unsigned long state;
+  id __unsafe_unretained* itemsPtr;
+  unsigned long* mutationsPtr;
+  unsigned long extra[5];
+} NSFastEnumerationState;
+
+@protocol NSFastEnumeration
+- (NSUInteger)countByEnumeratingWithState:(NSFastEnumerationState*)state
+                                  objects:(id __unsafe_unretained[])buffer
+                                    count:(NSUInteger)length;
+@end

@@ -1,0 +1,8 @@
+#pragma once
+
+#import <Foundation/NSObject.h>
+
+FOUNDATION_EXPORT @interface NSThread : NSObject
++ (void)sleepForTimeInterval:(NSTimeInterval)seconds;
+@property(class, readonly) BOOL isMainThread;
+@end
