@@ -28,6 +28,8 @@ static inline NSRange NSMakeRange(NSUInteger location, NSUInteger length) {
   return range;
 }
 
+static inline NSUInteger NSMaxRange(NSRange range) { return range.location + range.length; }
+
 @class NSCoder;
 
 @protocol NSCopying
