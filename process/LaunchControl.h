@@ -59,6 +59,8 @@ class LaunchControl {
   std::shared_ptr<RunningProcess> runningProcess() const;
 
  private:
+  /// Returns the handle that was held before, so that it is dropped outside the lock.
+  std::shared_ptr<RunningProcess> replaceRunningProcess(std::shared_ptr<RunningProcess> process);
   void waitForOldViewer();
   bool viewerRuns() const;
 

@@ -14,7 +14,8 @@ class ProcessHelpers {
  public:
   /// The identifier of the first process whose command name is a prefix of `name` (mind the
   /// direction: it is the searched name that begins with the command name), or `noProcess`, also
-  /// where the table cannot be read. Case counts; empty command names never match. Any thread.
+  /// where the table cannot be read. Texts are compared under canonical equivalence; case counts;
+  /// empty command names and processes that have ended never match. Any thread.
   ///
   ///     processes 7 "vex", 8 "vexlink"   getRunningProcess("vexlink", table)   -> 7
   ///     process   9 "vexlinks"           getRunningProcess("vexlink", table)   -> noProcess
@@ -23,6 +24,7 @@ class ProcessHelpers {
  private:
   using Snapshot = std::vector<std::byte>;
 
+  /// All records of the table, those that it left unfilled zero; absent where its size is unknown.
   static std::optional<Snapshot> GetBSDProcessList(const ProcessTable& table);
 };
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
-#include <string>
+#include <string_view>
 
 namespace launcher {
 
@@ -13,8 +15,13 @@ inline constexpr ProcessId noProcess = -1;
 
 /// The two fields that are read of a process record.
 struct ProcessRecord {
-  ProcessId pid;        ///< `kp_proc.p_pid`
-  std::string command;  ///< `kp_proc.p_comm` up to its first NUL, well-formed UTF-8
+  ProcessId pid;                 ///< `kp_proc.p_pid`
+  std::array<char, 17> command;  ///< `kp_proc.p_comm`, zero-padded: the executable's name, cut
+
+  /// The command up to its first NUL: bytes that need not be well-formed UTF-8.
+  std::string_view name() const {
+    return {command.data(), strnlen(command.data(), command.size())};
+  }
 };
 
 /// The machine's process table, asked in the manner of the BSD `sysctl`. No state; any thread.
@@ -25,16 +32,24 @@ class ProcessTable {
   /// The size of one record in bytes.
   virtual std::size_t recordSize() const = 0;
 
-  /// Without a buffer: sets `length` to the number of bytes that the table needs now.
-  /// With a buffer of `length` bytes: fills it with whole records, sets `length` to the number of
-  /// bytes filled, and leaves the rest untouched. A buffer that has become too small is filled as
-  /// far as it goes, and the call fails with `ENOMEM`.
+  /// Sets `length` to the number of bytes that the table needs now.
   ///
   /// Returns 0, or -1 with `errno` set. What another value means is the caller's to judge.
-  virtual int query(std::byte* buffer, std::size_t& length) const = 0;
+  virtual int probeSize(std::size_t& length) const = 0;
 
-  /// Reads one record of `recordSize()` bytes. A zeroed record has the empty command.
+  /// Fills a buffer of `length` bytes with whole records, sets `length` to the number of bytes
+  /// filled, and leaves the rest untouched. A buffer that has become too small is filled as far as
+  /// it goes, and the call fails with `ENOMEM`.
+  ///
+  /// Returns as `probeSize` does.
+  virtual int fetch(std::byte* buffer, std::size_t& length) const = 0;
+
+  /// Reads one record of `recordSize()` bytes. A zeroed record has the empty name.
   virtual ProcessRecord read(const std::byte* record) const = 0;
+
+  /// Whether a process that the table lists has ended and only waits for its parent to notice.
+  /// A platform that counts such a process as running until then says no.
+  virtual bool hasEnded(ProcessId /*pid*/) const { return false; }
 };
 
 std::unique_ptr<ProcessTable> makeProcessTable();

@@ -1,0 +1,136 @@
+#include <dirent.h>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/pidfd.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <charconv>
+#include <optional>
+#include <string>
+#include <type_traits>
+
+#include "process/ProcessTable.h"
+
+namespace launcher {
+namespace {
+
+// The table's records are the structure itself.
+static_assert(std::is_trivially_copyable_v<ProcessRecord>);
+
+/// A descriptor that closes itself.
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() {
+    if (isOpen()) close(number_);
+  }
+
+  int number() const { return number_; }
+  bool isOpen() const { return number_ != -1; }
+
+ private:
+  int number_;
+};
+
+std::optional<ProcessId> parseProcessId(std::string_view name) {
+  ProcessId pid = 0;
+  const auto [rest, error] = std::from_chars(name.begin(), name.end(), pid);
+  const bool isWhole = error == std::errc() && rest == name.end();
+  return isWhole ? std::optional(pid) : std::nullopt;
+}
+
+/// The processes listed in /proc, one after the other.
+class ProcessListing {
+ public:
+  ProcessListing() : stream_(opendir("/proc")) {}
+  ProcessListing(const ProcessListing&) = delete;
+  ProcessListing& operator=(const ProcessListing&) = delete;
+  ~ProcessListing() {
+    const int error = errno;
+    if (stream_ != nullptr) closedir(stream_);
+    errno = error;
+  }
+
+  bool isOpen() const { return stream_ != nullptr; }
+
+  /// Absent at the end, and where the reading fails; `errno` is 0 at the end.
+  std::optional<ProcessId> next() {
+    errno = 0;
+    while (const dirent* entry = readdir(stream_)) {
+      if (const auto pid = parseProcessId(entry->d_name)) return pid;
+    }
+    return std::nullopt;
+  }
+
+  /// Absent for a process that has gone since it was listed.
+  std::optional<ProcessRecord> record(ProcessId pid) const {
+    const std::string path = std::to_string(pid) + "/comm";  // short enough to need no allocation
+    const Descriptor file(openat(dirfd(stream_), path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!file.isOpen()) return std::nullopt;
+
+    ProcessRecord record{pid, {}};
+    const ssize_t size = read(file.number(), record.command.data(), record.command.size());
+    if (size <= 0) return std::nullopt;
+    // The last byte read is the line's end, or the first that a record has no room for.
+    record.command[static_cast<std::size_t>(size) - 1] = '\0';
+    return record;
+  }
+
+ private:
+  DIR* stream_;
+};
+
+class ProcTable : public ProcessTable {
+ public:
+  std::size_t recordSize() const override { return sizeof(ProcessRecord); }
+
+  int probeSize(std::size_t& length) const override {
+    ProcessListing listing;
+    if (!listing.isOpen()) return -1;
+
+    length = 0;
+    while (listing.next()) length += sizeof(ProcessRecord);
+    return errno == 0 ? 0 : -1;
+  }
+
+  int fetch(std::byte* buffer, std::size_t& length) const override {
+    ProcessListing listing;
+    if (!listing.isOpen()) return -1;
+
+    const std::size_t capacity = length;
+    length = 0;
+    while (const auto pid = listing.next()) {
+      if (capacity - length < sizeof(ProcessRecord)) {
+        errno = ENOMEM;
+        return -1;
+      }
+      if (const auto record = listing.record(*pid)) {
+        std::memcpy(buffer + length, &*record, sizeof *record);
+        length += sizeof *record;
+      }
+    }
+    return errno == 0 ? 0 : -1;
+  }
+
+  ProcessRecord read(const std::byte* record) const override {
+    ProcessRecord result{};
+    std::memcpy(&result, record, sizeof result);
+    return result;
+  }
+
+  bool hasEnded(ProcessId pid) const override {
+    const Descriptor process(pidfd_open(pid, 0));
+    if (!process.isOpen()) return errno == ESRCH;
+    pollfd exit{process.number(), POLLIN, 0};
+    return poll(&exit, 1, 0) == 1;
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<ProcessTable> makeProcessTable() { return std::make_unique<ProcTable>(); }
+
+}  // namespace launcher

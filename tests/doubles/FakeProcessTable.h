@@ -1,0 +1,102 @@
+#pragma once
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <cstring>
+#include <deque>
+#include <optional>
+#include <set>
+#include <string_view>
+#include <vector>
+
+#include "process/ProcessTable.h"
+
+namespace launcher {
+
+using ProcessRecords = std::vector<ProcessRecord>;
+
+/// A record as the table keeps it: what does not fit into 17 bytes is cut, without a NUL then.
+inline ProcessRecord processRecord(ProcessId pid, std::string_view name) {
+  ProcessRecord record{pid, {}};
+  name.copy(record.command.data(), record.command.size());
+  return record;
+}
+
+/// A process table that holds what the test puts into it.
+///
+///     FakeProcessTable table;
+///     table.processes = {processRecord(7, "vexlink")};       every search finds it,
+///     table.upcoming = {{}, {processRecord(8, "vexlink")}};  but the first nothing, the second 8
+///     table.probes = {{.result = -1, .error = EPERM}};       and the first size probe fails
+class FakeProcessTable : public ProcessTable {
+ public:
+  /// An answer in the table's place.
+  struct Answer {
+    int result = 0;
+    int error = 0;                      ///< `errno` afterwards
+    std::optional<std::size_t> length;  ///< in bytes, of a size probe; absent: left as it is
+    ProcessRecords records;             ///< filled in by a fetch
+  };
+
+  ProcessRecords processes;                     ///< what the table holds
+  mutable std::deque<ProcessRecords> upcoming;  ///< what it holds before that, a search each
+  mutable std::deque<Answer> probes;            ///< what the first size probes answer
+  mutable std::deque<Answer> fetches;           ///< what the first fetches answer
+  std::set<ProcessId> ended;                    ///< listed, but not running any more
+
+  mutable int searches = 0;                         ///< size probes so far
+  mutable std::vector<std::size_t> fetchedLengths;  ///< of the buffers so far, in bytes
+
+  /// As large as a record of the product's platform.
+  std::size_t recordSize() const override { return 648; }
+
+  int probeSize(std::size_t& length) const override {
+    ++searches;
+    if (!probes.empty()) {
+      return play(probes, [&](const Answer& now) { length = now.length.value_or(length); });
+    }
+    length = shown().size() * recordSize();
+    return 0;
+  }
+
+  int fetch(std::byte* buffer, std::size_t& length) const override {
+    fetchedLengths.push_back(length);
+    if (!fetches.empty()) {
+      return play(fetches, [&](const Answer& now) { fill(now.records, buffer, length); });
+    }
+    fill(shown(), buffer, length);
+    if (!upcoming.empty()) upcoming.pop_front();
+    return 0;
+  }
+
+  ProcessRecord read(const std::byte* record) const override {
+    ProcessRecord result{};
+    std::memcpy(&result, record, sizeof result);
+    return result;
+  }
+
+  bool hasEnded(ProcessId pid) const override { return ended.count(pid) > 0; }
+
+ private:
+  const ProcessRecords& shown() const { return upcoming.empty() ? processes : upcoming.front(); }
+
+  template <class Effect>
+  static int play(std::deque<Answer>& answers, Effect effect) {
+    const Answer now = answers.front();
+    answers.pop_front();
+    effect(now);
+    errno = now.error;
+    return now.result;
+  }
+
+  void fill(const ProcessRecords& records, std::byte* buffer, std::size_t& length) const {
+    const std::size_t count = std::min(records.size(), length / recordSize());
+    for (std::size_t i = 0; i < count; ++i) {
+      std::memcpy(buffer + i * recordSize(), &records[i], sizeof records[i]);
+    }
+    length = count * recordSize();
+  }
+};
+
+}  // namespace launcher
