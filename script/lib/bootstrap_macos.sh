@@ -7,6 +7,7 @@ bootstrap() {
   for tool in cmake ninja; do
     command -v "$tool" >/dev/null || list="$list $tool"
   done
+  command -v rsvg-convert >/dev/null || list="$list librsvg"
   [ -e "$(brew --prefix 2>/dev/null || echo /usr/local)/include/gtest/gtest.h" ] ||
     list="$list googletest"
   [ -z "$list" ] || fail "needs Homebrew's$list; install with: brew install$list"

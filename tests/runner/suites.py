@@ -6,6 +6,8 @@ from pythontests import PythonSuite
 
 SUITES = {
     "lint": lint,
+    "strings": PythonSuite("tests/strings"),
+    "icon": PythonSuite("tests/icon"),
     "unit": GoogleTestSuite("unit-tests"),
     "contract": GoogleTestSuite("contract-tests", isolated=True),
     "window": GoogleTestSuite("window-tests", isolated=True, display=True),
