@@ -2,10 +2,12 @@
 
 #import <Foundation/NSArray.h>
 #import <Foundation/NSBundle.h>
+#import <Foundation/NSCoder.h>
 #import <Foundation/NSData.h>
 #import <Foundation/NSDictionary.h>
 #import <Foundation/NSException.h>
 #import <Foundation/NSFileHandle.h>
+#import <Foundation/NSGeometry.h>
 #import <Foundation/NSNotification.h>
 #import <Foundation/NSObject.h>
 #import <Foundation/NSOperation.h>

@@ -26,6 +26,7 @@ FOUNDATION_EXPORT @interface NSString : NSObject <NSCopying>
                             freeWhenDone:(BOOL)freeWhenDone;
 @property(readonly) NSUInteger length;
 @property(readonly) const char* UTF8String;
+@property(readonly) const char* fileSystemRepresentation;
 @property(readonly, copy) NSString* decomposedStringWithCanonicalMapping;
 - (unichar)characterAtIndex:(NSUInteger)index;
 - (void)getCharacters:(unichar*)buffer range:(NSRange)range;

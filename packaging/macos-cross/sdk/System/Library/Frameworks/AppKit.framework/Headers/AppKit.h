@@ -1,0 +1,13 @@
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+#import <AppKit/NSAlert.h>
+#import <AppKit/NSApplication.h>
+#import <AppKit/NSCell.h>
+#import <AppKit/NSColor.h>
+#import <AppKit/NSControl.h>
+#import <AppKit/NSFont.h>
+#import <AppKit/NSView.h>
+#import <AppKit/NSViewController.h>
+#import <AppKit/NSWindow.h>

@@ -1,0 +1,14 @@
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+@class NSButton;
+
+typedef NSInteger NSModalResponse;
+
+FOUNDATION_EXPORT @interface NSAlert : NSObject
+@property(copy) NSString* messageText;
+@property(copy) NSString* informativeText;
+- (NSButton*)addButtonWithTitle:(NSString*)title;
+- (NSModalResponse)runModal;
+@end

@@ -1,0 +1,6 @@
+#pragma once
+
+#import <Foundation/NSObject.h>
+
+FOUNDATION_EXPORT @interface NSCoder : NSObject
+@end
