@@ -4,3 +4,10 @@ add_library(launcher_warnings INTERFACE)
 target_compile_options(launcher_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast
   -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Wnull-dereference -Werror)
+
+# A designated initialiser names what differs from the defaults. Newer compilers warn of that.
+include(CheckCXXCompilerFlag)
+check_cxx_compiler_flag(-Wmissing-designated-field-initializers WARNS_OF_DEFAULTS)
+if(WARNS_OF_DEFAULTS)
+  target_compile_options(launcher_warnings INTERFACE -Wno-missing-designated-field-initializers)
+endif()

@@ -1,8 +1,8 @@
 #include <sys/sysctl.h>
 
-#include <cstring>
+#include <algorithm>
+#include <iterator>
 
-#include "base/Text.h"
 #include "process/ProcessTable.h"
 
 namespace launcher {
@@ -10,21 +10,28 @@ namespace {
 
 static_assert(sizeof(kinfo_proc) == 648, "the record of the 64-bit platform");
 
+int askKernel(void* buffer, std::size_t& length) {
+  std::array<int, 4> name = {CTL_KERN, KERN_PROC, KERN_PROC_ALL, 0};
+  return sysctl(name.data(), name.size(), buffer, &length, nullptr, 0);
+}
+
 class KernelProcessTable : public ProcessTable {
  public:
   std::size_t recordSize() const override { return sizeof(kinfo_proc); }
 
-  int query(std::byte* buffer, std::size_t& length) const override {
-    int name[] = {CTL_KERN, KERN_PROC, KERN_PROC_ALL, 0};
-    return sysctl(name, 4, buffer, &length, nullptr, 0);
+  int probeSize(std::size_t& length) const override { return askKernel(nullptr, length); }
+
+  int fetch(std::byte* buffer, std::size_t& length) const override {
+    return askKernel(buffer, length);
   }
 
   ProcessRecord read(const std::byte* record) const override {
     kinfo_proc process;
     std::memcpy(&process, record, sizeof(process));
-    const char* command = process.kp_proc.p_comm;
-    return {process.kp_proc.p_pid,
-            repairedUtf8({command, strnlen(command, sizeof(process.kp_proc.p_comm))})};
+    ProcessRecord read{process.kp_proc.p_pid, {}};
+    std::copy(std::begin(process.kp_proc.p_comm), std::end(process.kp_proc.p_comm),
+              read.command.begin());
+    return read;
   }
 };
 
