@@ -9,7 +9,8 @@ if(APPLE)
     DoneSignal_mac.cpp ListingTool_mac.mm OriginAttribute_mac.cpp PropertyList_mac.mm)
   set(CONTROLLER_PLATFORM_SOURCES OperationQueues_mac.mm)
 else()
-  set(BASE_PLATFORM_SOURCES Sleeper_linux.cpp Spawn_linux.cpp UnicodeRules_linux.cpp)
+  set(BASE_PLATFORM_SOURCES
+    Sleeper_linux.cpp Spawn_linux.cpp UnicodeRules_linux.cpp Url_linux.cpp)
   set(PROCESS_PLATFORM_SOURCES ProcessTable_linux.cpp ProgramStarter_linux.cpp)
   set(NET_PLATFORM_SOURCES HostResolver_linux.cpp LinkDetector_linux.cpp)
   set(DISCOVERY_PLATFORM_SOURCES

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <array>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+/// Escapes of the form "%2F", and the sets of bytes that need none. No state; any thread.
+namespace launcher {
+
+/// A set of bytes, asked in constant time.
+class ByteSet {
+ public:
+  constexpr ByteSet(std::initializer_list<std::string_view> groups) {
+    for (const std::string_view group : groups) {
+      for (const char byte : group) members_[static_cast<unsigned char>(byte)] = true;
+    }
+  }
+
+  constexpr bool holds(char byte) const { return members_[static_cast<unsigned char>(byte)]; }
+
+ private:
+  std::array<bool, 256> members_{};
+};
+
+inline constexpr std::string_view kLetters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+inline constexpr std::string_view kDigits = "0123456789";
+
+/// Whether the text begins with "%" and two hexadecimal digits.
+bool beginsWithEscape(std::string_view text);
+
+/// The text with every byte outside `kept` escaped.
+///
+///     escaped("a b", {"ab"})   -> "a%20b"
+std::string escaped(std::string_view text, const ByteSet& kept);
+
+/// The bytes that a text stands for. A "%" that begins no escape stands for itself.
+///
+///     unescaped("a%20b")   -> "a b"
+std::string unescaped(std::string_view text);
+
+}  // namespace launcher

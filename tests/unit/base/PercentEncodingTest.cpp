@@ -1,0 +1,41 @@
+#include <gtest/gtest.h>
+
+#include "base/PercentEncoding.h"
+
+namespace launcher {
+namespace {
+
+using namespace std::string_view_literals;
+
+TEST(PercentEncodingTest, EscapesEveryByteOutsideTheSet) {
+  constexpr ByteSet kKept{kLetters, "/"};
+  EXPECT_EQ(escaped("", kKept), "");
+  EXPECT_EQ(escaped("/a/Z", kKept), "/a/Z");
+  EXPECT_EQ(escaped("a b%\0\xff"sv, kKept), "a%20b%25%00%FF");
+}
+
+TEST(PercentEncodingTest, ReadsEscapesOfEitherCase) {
+  EXPECT_EQ(unescaped(""), "");
+  EXPECT_EQ(unescaped("a%20b"), "a b");
+  EXPECT_EQ(unescaped("%2F%2f%ff%FF%00"), "//\xff\xff\0"sv);
+  EXPECT_EQ(unescaped("%2520"), "%20");
+}
+
+TEST(PercentEncodingTest, LeavesWhatIsNoEscape) {
+  EXPECT_EQ(unescaped("%"), "%");
+  EXPECT_EQ(unescaped("100%!"), "100%!");
+  EXPECT_EQ(unescaped("%2"), "%2");
+  EXPECT_EQ(unescaped("%2g%g2"), "%2g%g2");
+}
+
+TEST(PercentEncodingTest, KnowsTheBeginningOfAnEscape) {
+  EXPECT_TRUE(beginsWithEscape("%aF"));
+  EXPECT_TRUE(beginsWithEscape("%09 and more"));
+  EXPECT_FALSE(beginsWithEscape(""));
+  EXPECT_FALSE(beginsWithEscape("%0"));
+  EXPECT_FALSE(beginsWithEscape("a%09"));
+  EXPECT_FALSE(beginsWithEscape("%0 9"));
+}
+
+}  // namespace
+}  // namespace launcher
