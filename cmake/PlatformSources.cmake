@@ -12,7 +12,7 @@ else()
   set(BASE_PLATFORM_SOURCES
     Sleeper_linux.cpp Spawn_linux.cpp UnicodeRules_linux.cpp Url_linux.cpp)
   set(PROCESS_PLATFORM_SOURCES ProcessTable_linux.cpp ProgramStarter_linux.cpp)
-  set(NET_PLATFORM_SOURCES HostResolver_linux.cpp LinkDetector_linux.cpp)
+  set(NET_PLATFORM_SOURCES HostResolver_linux.cpp)
   set(DISCOVERY_PLATFORM_SOURCES
     DoneSignal_linux.cpp ListingTool_linux.cpp OriginAttribute_linux.cpp PropertyList_linux.cpp)
   set(CONTROLLER_PLATFORM_SOURCES OperationQueues_gnustep.mm)
