@@ -1,0 +1,14 @@
+#pragma once
+
+namespace launcher {
+
+/// Make GNUstep's AppKit behave like the platform's. Once, before the application's main function.
+void registerDefaults();
+void installViewLifecycle();
+void installLayers();
+void installWindowLevel();
+
+/// All of the above.
+void installAppKitLikeness();
+
+}  // namespace launcher

@@ -1,0 +1,28 @@
+#include "app/gnustep/KeepAbove.h"
+
+#include <X11/Xlib.h>
+
+namespace launcher {
+
+void keepAbove(void* toolkitDisplay, unsigned long window) {
+  constexpr long add = 1;
+  constexpr long fromApplication = 1;
+
+  Display* display = static_cast<Display*>(toolkitDisplay);
+  const Atom state = XInternAtom(display, "_NET_WM_STATE", False);
+  const Atom above = XInternAtom(display, "_NET_WM_STATE_ABOVE", False);
+
+  XEvent event{};
+  event.xclient.type = ClientMessage;
+  event.xclient.window = window;
+  event.xclient.message_type = state;
+  event.xclient.format = 32;
+  event.xclient.data.l[0] = add;
+  event.xclient.data.l[1] = static_cast<long>(above);
+  event.xclient.data.l[3] = fromApplication;
+  XSendEvent(display, DefaultRootWindow(display), False,
+             SubstructureRedirectMask | SubstructureNotifyMask, &event);
+  XFlush(display);
+}
+
+}  // namespace launcher

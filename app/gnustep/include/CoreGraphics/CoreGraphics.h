@@ -1,0 +1,12 @@
+#pragma once
+
+// The part of CoreGraphics that this program uses.
+
+#include <cstdint>
+
+using CGWindowLevel = std::int32_t;
+using CGWindowLevelKey = std::int32_t;
+
+enum : CGWindowLevelKey { kCGFloatingWindowLevelKey = 5 };
+
+extern "C" CGWindowLevel CGWindowLevelForKey(CGWindowLevelKey key);
