@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -16,5 +17,7 @@ class ApplicationBundle {
   /// The path of the resource folder without a trailing separator, or absent.
   virtual std::optional<std::string> resourcePath() const = 0;
 };
+
+std::unique_ptr<ApplicationBundle> makeApplicationBundle();
 
 }  // namespace launcher

@@ -8,6 +8,7 @@ if(APPLE)
   set(DISCOVERY_PLATFORM_SOURCES
     DoneSignal_mac.cpp ListingTool_mac.mm OriginAttribute_mac.cpp PropertyList_mac.mm)
   set(CONTROLLER_PLATFORM_SOURCES OperationQueues_mac.mm)
+  set(APP_PLATFORM_SOURCES PrepareToolkit_mac.cpp)
 else()
   set(BASE_PLATFORM_SOURCES
     Sleeper_linux.cpp Spawn_linux.cpp UnicodeRules_linux.cpp Url_linux.cpp)
@@ -16,4 +17,5 @@ else()
   set(DISCOVERY_PLATFORM_SOURCES
     DoneSignal_linux.cpp ListingTool_linux.cpp OriginAttribute_linux.cpp PropertyList_linux.cpp)
   set(CONTROLLER_PLATFORM_SOURCES OperationQueues_gnustep.mm)
+  set(APP_PLATFORM_SOURCES PrepareToolkit_gnustep.mm)
 endif()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "controller/Texts.h"
@@ -14,5 +15,8 @@ class Translations {
   /// The text in the person's language; the key itself where there is no translation.
   virtual std::string operator()(const Text& text) const = 0;
 };
+
+/// Asks the running application's bundle.
+std::unique_ptr<Translations> makeTranslations();
 
 }  // namespace launcher

@@ -1,0 +1,72 @@
+#import "controller/OperationQueues.h"
+
+#import <AppKit/AppKit.h>
+
+#include <utility>
+
+/// An item of work as an operation. This runtime knows no blocks.
+@interface WorkOperation : NSOperation {
+  std::function<void()> _item;
+}
+- (id)initWithItem:(std::function<void()>)item;
+@end
+
+@implementation WorkOperation
+
+- (id)initWithItem:(std::function<void()>)item {
+  self = [super init];
+  if (self != nil) _item = std::move(item);
+  return self;
+}
+
+/// Lets go of what the item holds as soon as it has run, on the same thread.
+- (void)main {
+  const std::function<void()> item = std::exchange(_item, nullptr);
+  item();
+}
+
+@end
+
+namespace launcher {
+namespace {
+
+class OperationWorkQueue : public WorkQueue {
+ public:
+  explicit OperationWorkQueue(NSOperationQueue* queue) : queue_([queue retain]) {}
+  ~OperationWorkQueue() override { [queue_ release]; }
+  OperationWorkQueue(const OperationWorkQueue&) = delete;
+  OperationWorkQueue& operator=(const OperationWorkQueue&) = delete;
+
+  void add(std::function<void()> item) override {
+    WorkOperation* operation = [[WorkOperation alloc] initWithItem:std::move(item)];
+    [queue_ addOperation:operation];
+    [operation release];
+  }
+
+ private:
+  NSOperationQueue* queue_;
+};
+
+/// GNUstep's own main queue runs its items on worker threads, hence the run loop; its modal mode
+/// is left out so that no item runs inside an alert.
+class RunLoopWorkQueue : public WorkQueue {
+ public:
+  void add(std::function<void()> item) override {
+    WorkOperation* operation = [[WorkOperation alloc] initWithItem:std::move(item)];
+    [operation performSelectorOnMainThread:@selector(main)
+                                withObject:nil
+                             waitUntilDone:NO
+                                     modes:@[ NSDefaultRunLoopMode, NSEventTrackingRunLoopMode ]];
+    [operation release];
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<WorkQueue> makeWorkQueue(NSOperationQueue* queue) {
+  return std::make_unique<OperationWorkQueue>(queue);
+}
+
+std::unique_ptr<WorkQueue> makeMainQueue() { return std::make_unique<RunLoopWorkQueue>(); }
+
+}  // namespace launcher

@@ -1,0 +1,70 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include <memory>
+
+namespace launcher {
+struct ControllerServices;
+class WindowLogic;
+
+/// What a window's controller is given when the layout resource creates it. Defined by whoever
+/// assembles the program.
+const ControllerServices& controllerServices();
+
+}  // namespace launcher
+
+/// The controller of the launcher's window, as the toolkit and the layout resource reach it. It
+/// decides nothing: every message is handed on to the logic. Main thread only, but for the messages
+/// of the search and for `getIpAddressWithDomain:manualIP:`.
+///
+/// The outlets are weak and connected by the layout resource; reading one that is not connected
+/// stops the program.
+@interface ViewController : NSViewController <NSTextFieldDelegate> {
+ @private
+  NSButton* _launchButton;
+  NSTextField* _infoLabel;
+  NSTextField* _vorxLocation;
+  NSTextField* _ipAddress;
+  NSOperationQueue* _backgroundQueue;
+  std::unique_ptr<launcher::WindowLogic> _logic;
+}
+
+- (NSButton*)launchButton;
+- (void)setLaunchButton:(NSButton*)button;
+- (NSTextField*)infoLabel;
+- (void)setInfoLabel:(NSTextField*)label;
+- (NSTextField*)vorxLocation;
+- (void)setVorxLocation:(NSTextField*)field;
+- (NSTextField*)ipAddress;
+- (void)setIpAddress:(NSTextField*)field;
+
+/// Where slow work runs; not serial.
+- (NSOperationQueue*)backgroundQueue;
+
+/// The typed address if it is valid, else the host's first one, or nil. Blocks; not on the main
+/// thread.
+- (NSString*)getIpAddressWithDomain:(NSString*)domain manualIP:(NSString*)manualIP;
+
+- (IBAction)launchButtonClick:(id)sender;
+
+/// Evaluates the launch state and shows it.
+- (void)updateState;
+
+/// The server location recorded on a disk image file, or nil.
+- (NSString*)extractWhereAreYouFromUrl:(NSURL*)url;
+
+/// The server location that a listing of attached images leads to, or nil.
+- (NSString*)processDMGDataWithPlist:(NSDictionary*)plist;
+
+/// Queues, for the main thread, writing the location into its field and an evaluation.
+- (void)updateSourceLocationWithSource:(NSString*)source;
+
+/// Queues the search for the server location on the background queue.
+- (void)searchDMGs;
+
+/// The server location that the attached disk images lead to, or nil. Blocks; not on the main
+/// thread.
+- (NSString*)extractSourceFromDMG;
+
+@end

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "controller/LauncherWindow.h"
+
+@class ViewController;
+
+namespace launcher {
+
+/// The window of a `ViewController`, as the logic sees it. Belongs to the controller.
+class WindowBridge : public LauncherWindow {
+ public:
+  explicit WindowBridge(ViewController* controller) : controller_(controller) {}
+
+  std::string vorxLocation() const override;
+  void setVorxLocation(const std::string& text) override;
+  void setVorxLocation(Availability availability) override;
+  std::string ipAddress() const override;
+  void setIpAddressColour(FieldColour colour) override;
+  void setLaunchButton(Availability availability) override;
+  void setLaunchButtonTitle(const std::string& title) override;
+  void setInfoLabel(const std::string& text) override;
+  void show(const Alert& alert) override;
+  std::shared_ptr<void> keepAlive() override;
+
+ private:
+  ViewController* controller_;
+};
+
+}  // namespace launcher

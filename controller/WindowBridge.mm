@@ -1,0 +1,84 @@
+#import "controller/WindowBridge.h"
+
+#import <AppKit/AppKit.h>
+#import <QuartzCore/QuartzCore.h>
+
+#import "controller/Conversions.h"
+#import "controller/ViewController.h"
+
+namespace launcher {
+namespace {
+
+BOOL isEnabled(Availability availability) { return availability == Availability::enabled; }
+
+NSColor* named(FieldColour colour) {
+  switch (colour) {
+    case FieldColour::green:
+      return [NSColor greenColor];
+    case FieldColour::red:
+      return [NSColor redColor];
+    case FieldColour::white:
+      return [NSColor whiteColor];
+  }
+}
+
+/// Holds a controller and lets go of it on the main thread, where its view belongs.
+class Hold {
+ public:
+  explicit Hold(ViewController* controller) : controller_([controller retain]) {}
+  ~Hold() {
+    [controller_ performSelectorOnMainThread:@selector(release) withObject:nil waitUntilDone:NO];
+  }
+  Hold(const Hold&) = delete;
+  Hold& operator=(const Hold&) = delete;
+
+ private:
+  ViewController* controller_;
+};
+
+}  // namespace
+
+std::string WindowBridge::vorxLocation() const {
+  return fromToolkit([[controller_ vorxLocation] stringValue]);
+}
+
+void WindowBridge::setVorxLocation(const std::string& text) {
+  [[controller_ vorxLocation] setStringValue:toToolkit(text)];
+}
+
+void WindowBridge::setVorxLocation(Availability availability) {
+  [[controller_ vorxLocation] setEnabled:isEnabled(availability)];
+}
+
+std::string WindowBridge::ipAddress() const {
+  return fromToolkit([[controller_ ipAddress] stringValue]);
+}
+
+void WindowBridge::setIpAddressColour(FieldColour colour) {
+  [[[controller_ ipAddress] layer] setBackgroundColor:[named(colour) CGColor]];
+}
+
+void WindowBridge::setLaunchButton(Availability availability) {
+  [[controller_ launchButton] setEnabled:isEnabled(availability)];
+}
+
+void WindowBridge::setLaunchButtonTitle(const std::string& title) {
+  [[controller_ launchButton] setTitle:toToolkit(title)];
+}
+
+void WindowBridge::setInfoLabel(const std::string& text) {
+  [[controller_ infoLabel] setStringValue:toToolkit(text)];
+}
+
+void WindowBridge::show(const Alert& alert) {
+  NSAlert* panel = [[NSAlert alloc] init];
+  [panel setMessageText:toToolkit(alert.message)];
+  [panel setInformativeText:toToolkit(alert.informative)];
+  [panel addButtonWithTitle:toToolkit(alert.button)];
+  [panel runModal];
+  [panel release];
+}
+
+std::shared_ptr<void> WindowBridge::keepAlive() { return std::make_shared<Hold>(controller_); }
+
+}  // namespace launcher
