@@ -21,17 +21,19 @@ def texts_of_code(source):
     return {_joined(key): _joined(comment) for key, comment in _TEXT.findall(source)}
 
 
-def _texts_of(element):
+def shown_attributes(element):
+    """The names of an element's attributes that may hold a text to be shown or spoken."""
     if element.get("systemMenu") == "main":  # the menu bar: its own title is never shown
         return []
     if element.tag == "accessibility":
-        return [element.get(name) for name in _SPOKEN_ATTRIBUTES]
+        return _SPOKEN_ATTRIBUTES
     if element.tag == "userDefinedRuntimeAttribute":
-        return [element.get("value")] if "accessibility" in element.get("keyPath", "") else []
-    return [element.get(name) for name in _SHOWN_ATTRIBUTES]
+        return ["value"] if "accessibility" in element.get("keyPath", "") else []
+    return _SHOWN_ATTRIBUTES
 
 
 def texts_of_layout(xib):
     """The keys of the texts that a layout file shows or has spoken."""
     elements = xml.etree.ElementTree.fromstring(xib).iter()
-    return {text for element in elements for text in _texts_of(element) if text}
+    texts = {element.get(name) for element in elements for name in shown_attributes(element)}
+    return texts - {None, ""}
