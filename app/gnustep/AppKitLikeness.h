@@ -3,6 +3,7 @@
 namespace launcher {
 
 /// Make GNUstep's AppKit behave like the platform's. Once, before the application's main function.
+void registerLanguages();
 void registerDefaults();
 void installViewLifecycle();
 void installLayers();

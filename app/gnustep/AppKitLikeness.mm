@@ -6,6 +6,7 @@ namespace launcher {
 
 void installAppKitLikeness() {
   @autoreleasepool {
+    registerLanguages();
     registerDefaults();
     installViewLifecycle();
     installLayers();

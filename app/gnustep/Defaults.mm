@@ -5,7 +5,20 @@
 
 #import <AppKit/AppKit.h>
 
+#include "app/desktop/Fonts.h"
+#include "app/desktop/Languages.h"
+
 namespace launcher {
+namespace {
+
+/// The toolkit draws no letter that its one font lacks, so the font follows the language.
+NSString* fontName(FontWeight weight) {
+  const auto languages = preferredLanguages(localeVariables());
+  const auto font = desktopFont(languages.empty() ? "" : languages.front(), weight);
+  return [NSString stringWithUTF8String:font.c_str()];
+}
+
+}  // namespace
 
 void registerDefaults() {
   [[NSUserDefaults standardUserDefaults] registerDefaults:@{
@@ -16,8 +29,8 @@ void registerDefaults() {
     @"GSSecondCommandKey" : @"Control_R",
     @"GSFirstControlKey" : @"Super_L",
     @"GSSecondControlKey" : @"Super_R",
-    @"NSFont" : @"DejaVuSans",
-    @"NSBoldFont" : @"DejaVuSans-Bold",
+    @"NSFont" : fontName(FontWeight::regular),
+    @"NSBoldFont" : fontName(FontWeight::bold),
     @"NSUserFixedPitchFont" : @"DejaVuSansMono",
   }];
 }
