@@ -1,0 +1,49 @@
+"""The project's own tables agree with its code and layout."""
+
+import pathlib
+import unittest
+
+from faults import faults, faults_of_english
+from shown import texts_of_code, texts_of_layout
+from tables import decode, parse
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+RESOURCES = ROOT / "resources"
+LANGUAGES = ["de", "en", "es", "fr", "it", "ja", "pt-BR", "zh-Hans"]
+
+
+def read(language):
+    return parse(decode((RESOURCES / f"{language}.lproj" / "Localizable.strings").read_bytes()))
+
+
+def comments_of_what_is_shown():
+    """The code brings its comments along; those of the layout are the English table's."""
+    of_code = texts_of_code((ROOT / "controller" / "Texts.h").read_text(encoding="utf-8"))
+    of_english = {entry.key: entry.comment for entry in read("en")}
+    of_layout = {text: of_english.get(text) for xib in sorted(RESOURCES.glob("**/*.xib"))
+                 for text in texts_of_layout(xib.read_bytes())}
+    return of_layout | of_code
+
+
+class ProjectTest(unittest.TestCase):
+    def test_every_language_has_its_folder_and_every_folder_is_a_language(self):
+        folders = {path.stem for path in RESOURCES.glob("*.lproj")} - {"Base"}
+        self.assertEqual(folders, set(LANGUAGES))
+
+    def test_the_code_and_the_layout_were_read(self):
+        shown = comments_of_what_is_shown()
+        self.assertEqual(shown["Re-Launch"], "Re-Launch button")
+        self.assertIn("Quit Vorx Launcher", shown)
+
+    def test_tables_agree_with_code_and_layout(self):
+        comments = comments_of_what_is_shown()
+        for language in LANGUAGES:
+            with self.subTest(language):
+                self.assertEqual(list(faults(read(language), comments)), [])
+
+    def test_every_text_has_a_comment(self):
+        silent = [key for key, comment in comments_of_what_is_shown().items() if not comment]
+        self.assertEqual(silent, [])
+
+    def test_english_says_its_keys(self):
+        self.assertEqual(faults_of_english(read("en")), [])
