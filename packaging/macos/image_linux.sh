@@ -1,0 +1,40 @@
+# How make-image works on Linux. It brings its options as variables.
+# shellcheck shell=bash disable=SC2154
+
+for tool in xorriso 7zz python3; do
+  command -v "$tool" >/dev/null || fail "$tool is missing; script/bootstrap installs it"
+done
+
+case $identity$entitlements$viewer_entitlements$notary_profile in
+  -) ;;
+  *) fail "signing and notarising need a Mac" ;;
+esac
+
+sign_bundle() { :; }
+sign_image() { :; }
+notarise_image() { :; }
+leave_image() { :; }
+
+create_image() {
+  xorriso -as mkisofs -quiet -hfsplus -V "$volume" -o "$image" "$work/volume" \
+    >"$work/xorriso.log" 2>&1 || fail "could not make $image: $(tail -n 1 "$work/xorriso.log")"
+}
+
+# What was staged, a line each: mode, path. The volume keeps names in their decomposed form.
+staged_entries() {
+  (cd "$work/volume" && find . -mindepth 1 -printf '%M %P\n') | python3 -c '
+import sys, unicodedata
+sys.stdout.write(unicodedata.normalize("NFD", sys.stdin.read()))' | sort
+}
+
+# The same of the image, whose paths begin with the volume's name.
+image_entries() {
+  7zz l -slt -tHFS "$image" | awk '
+    /^Path = / { path = substr($0, 8) }
+    /^Mode = / { if (sub("^[^/]*/", "", path)) print substr($0, 8), path }' | sort
+}
+
+check_image() {
+  diff <(staged_entries) <(image_entries) >"$work/differences" ||
+    fail "the image does not hold what was put into it: $(sed -n 2p "$work/differences")"
+}
