@@ -1,4 +1,4 @@
-#import "base/FoundationText.h"
+#import "base/Conversions.h"
 #include "base/Text.h"
 #include "base/UnicodeRules.h"
 

@@ -1,6 +1,6 @@
 #include <climits>
 
-#import "base/FoundationText.h"
+#import "base/Conversions.h"
 #include "base/Url.h"
 
 namespace launcher {

@@ -2,7 +2,7 @@
 # questions there. Folders are relative to the room.
 
 if(APPLE)
-  set(BASE_PLATFORM_SOURCES FoundationText.mm Sleeper_mac.mm UnicodeRules_mac.mm Url_mac.mm)
+  set(BASE_PLATFORM_SOURCES Conversions.mm Sleeper_mac.mm UnicodeRules_mac.mm Url_mac.mm)
   set(PROCESS_PLATFORM_SOURCES ProcessTable_mac.cpp ProgramStarter_mac.mm)
   set(NET_PLATFORM_SOURCES HostResolver_mac.cpp LinkDetector_mac.mm)
   set(DISCOVERY_PLATFORM_SOURCES

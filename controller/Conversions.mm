@@ -1,8 +1,6 @@
 #import "controller/Conversions.h"
 
-#include <vector>
-
-#include "base/Text.h"
+#import "base/Conversions.h"
 
 namespace launcher {
 namespace {
@@ -33,12 +31,6 @@ PropertyList valueOf(id object) {
 
 }  // namespace
 
-std::string fromToolkit(NSString* text) {
-  std::vector<unichar> characters([text length]);
-  [text getCharacters:characters.data() range:NSMakeRange(0, characters.size())];
-  return utf8(std::u16string(characters.begin(), characters.end()));
-}
-
 PropertyList::Dictionary fromToolkit(NSDictionary* dictionary) {
   PropertyList::Dictionary values;
   for (id key in dictionary) {
@@ -46,21 +38,6 @@ PropertyList::Dictionary fromToolkit(NSDictionary* dictionary) {
     values[fromToolkit(static_cast<NSString*>(key))] = valueOf([dictionary objectForKey:key]);
   }
   return values;
-}
-
-std::optional<Url> fromToolkit(NSURL* url) {
-  if (url == nil) return std::nullopt;
-  return Url::parse(fromToolkit([url absoluteString]));
-}
-
-NSString* toToolkit(std::string_view text) {
-  const std::u16string units = utf16(text);
-  const std::vector<unichar> characters(units.begin(), units.end());
-  return [NSString stringWithCharacters:characters.data() length:characters.size()];
-}
-
-NSString* toToolkitOrNil(const std::optional<std::string>& text) {
-  return text ? toToolkit(*text) : nil;
 }
 
 }  // namespace launcher

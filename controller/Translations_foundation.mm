@@ -1,6 +1,6 @@
 #import <Foundation/Foundation.h>
 
-#import "controller/Conversions.h"
+#import "base/Conversions.h"
 #include "controller/Translations.h"
 
 namespace launcher {

@@ -3,6 +3,7 @@
 #import <CoreGraphics/CoreGraphics.h>
 #import <QuartzCore/QuartzCore.h>
 
+#import "base/Conversions.h"
 #include "base/FatalError.h"
 #import "controller/Conversions.h"
 #include "controller/LauncherController.h"

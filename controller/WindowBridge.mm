@@ -3,7 +3,7 @@
 #import <AppKit/AppKit.h>
 #import <QuartzCore/QuartzCore.h>
 
-#import "controller/Conversions.h"
+#import "base/Conversions.h"
 #import "controller/ViewController.h"
 
 namespace launcher {

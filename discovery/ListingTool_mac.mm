@@ -1,6 +1,6 @@
 #include <mutex>
 
-#import "base/FoundationText.h"
+#import "base/Conversions.h"
 #include "discovery/ListingTool.h"
 
 namespace launcher {

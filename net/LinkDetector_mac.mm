@@ -1,13 +1,8 @@
-#import "base/FoundationText.h"
+#import "base/Conversions.h"
 #include "net/LinkDetector.h"
 
 namespace launcher {
 namespace {
-
-std::optional<Url> detectedUrl(NSURL* url) {
-  if (url == nil) return std::nullopt;
-  return Url::parse(fromToolkit([url absoluteString]));
-}
 
 class DataDetector : public LinkDetector {
  public:
@@ -19,7 +14,7 @@ class DataDetector : public LinkDetector {
                                                          options:NSMatchingReportCompletion
                                                            range:NSMakeRange(0, length)];
       if (match == nil) return std::nullopt;
-      return LinkMatch{detectedUrl([match URL]), [match range].location, [match range].length};
+      return LinkMatch{fromToolkit([match URL]), [match range].location, [match range].length};
     }
   }
 };

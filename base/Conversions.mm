@@ -1,4 +1,4 @@
-#import "base/FoundationText.h"
+#import "base/Conversions.h"
 
 #include <vector>
 
@@ -12,11 +12,20 @@ std::string fromToolkit(NSString* text) {
   return utf8(std::u16string(characters.begin(), characters.end()));
 }
 
+std::optional<Url> fromToolkit(NSURL* url) {
+  if (url == nil) return std::nullopt;
+  return Url::parse(fromToolkit([url absoluteString]));
+}
+
 NSString* toToolkit(std::string_view text) { return toToolkit(std::u16string_view(utf16(text))); }
 
 NSString* toToolkit(std::u16string_view units) {
   const std::vector<unichar> characters(units.begin(), units.end());
   return [NSString stringWithCharacters:characters.data() length:characters.size()];
+}
+
+NSString* toToolkitOrNil(const std::optional<std::string>& text) {
+  return text ? toToolkit(*text) : nil;
 }
 
 }  // namespace launcher

@@ -2,19 +2,28 @@
 
 #import <Foundation/Foundation.h>
 
+#include <optional>
 #include <string>
 #include <string_view>
 
-/// From Foundation's texts to ours and back; the only place that does it. Any thread.
+#include "base/Url.h"
+
+/// From the toolkit's texts and URLs to ours and back; the only place that does it. Any thread.
 namespace launcher {
 
 /// The text in UTF-8; a lone surrogate becomes U+FFFD, nil the empty text.
 std::string fromToolkit(NSString* text);
+
+/// The URL by its absolute text, or absent, also for nil.
+std::optional<Url> fromToolkit(NSURL* url);
 
 /// The text as an autoreleased object; an ill-formed sequence becomes U+FFFD.
 NSString* toToolkit(std::string_view text);
 
 /// The text of UTF-16 units as an autoreleased object; lone surrogates are kept.
 NSString* toToolkit(std::u16string_view units);
+
+/// nil where the text is absent.
+NSString* toToolkitOrNil(const std::optional<std::string>& text);
 
 }  // namespace launcher

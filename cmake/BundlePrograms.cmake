@@ -1,0 +1,17 @@
+# The programs inside the bundle, in the folder ${bundle_programs}: the viewer, and what a platform
+# adds with bundle_program.
+
+# Puts an executable there under the name that is looked for.
+function(bundle_program name file)
+  set(inside "${bundle_programs}/${name}")
+  add_custom_command(OUTPUT "${inside}" DEPENDS "${file}"
+    COMMAND "${CMAKE_COMMAND}" -E make_directory "${bundle_programs}"
+    COMMAND "${CMAKE_COMMAND}" -E copy "${file}" "${inside}")
+  add_custom_target(bundle_${name} ALL DEPENDS "${inside}")
+endfunction()
+
+if(VEXLINK)
+  bundle_program(vexlink "${VEXLINK}")
+elseif(TARGET sample-viewer)
+  bundle_program(vexlink "$<TARGET_FILE:sample-viewer>")
+endif()
