@@ -1,12 +1,17 @@
-#include "app/PrepareToolkit.h"
+#include <cstdio>
+#include <cstdlib>
 
+#include "app/PrepareToolkit.h"
 #include "app/gnustep/AppKitLikeness.h"
 #include "app/gnustep/Display.h"
 
 namespace launcher {
 
 void prepareToolkit() {
-  requireDisplay();
+  if (!hasDisplay()) {
+    std::fputs("VorxLauncher: no display to show the window on\n", stderr);
+    std::exit(EXIT_FAILURE);
+  }
   installAppKitLikeness();
 }
 

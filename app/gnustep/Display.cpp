@@ -2,18 +2,13 @@
 
 #include <X11/Xlib.h>
 
-#include <cstdio>
-#include <cstdlib>
-
 namespace launcher {
 
-void requireDisplay() {
+bool hasDisplay() {
   Display* display = XOpenDisplay(nullptr);
-  if (display == nullptr) {
-    std::fputs("VorxLauncher: no display to show the window on\n", stderr);
-    std::exit(EXIT_FAILURE);
-  }
+  if (display == nullptr) return false;
   XCloseDisplay(display);
+  return true;
 }
 
 }  // namespace launcher

@@ -2,7 +2,7 @@
 
 namespace launcher {
 
-/// Ends the program with one line and exit status 1 where no window can be shown.
-void requireDisplay();
+/// Whether there is a display to show a window on.
+bool hasDisplay();
 
 }  // namespace launcher

@@ -1,0 +1,17 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include "viewer/Arguments.h"
+
+/// The sample viewer's one window; the program ends with it.
+@interface SampleWindow : NSObject <NSApplicationDelegate> {
+ @private
+  NSWindow* _window;
+}
+
+- (instancetype)initWithArguments:(const viewer::Arguments&)arguments;
+
+- (void)show;
+
+@end

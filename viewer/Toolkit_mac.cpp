@@ -1,0 +1,7 @@
+#include "viewer/Toolkit.h"
+
+namespace viewer {
+
+bool prepareToolkit() { return true; }
+
+}  // namespace viewer

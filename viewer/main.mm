@@ -1,0 +1,49 @@
+// A sample viewer. It stands in for the remote-control viewer where none is at hand: it prints and
+// shows what the launcher gave it, and ends at SIGTERM or with its window.
+
+#import <AppKit/AppKit.h>
+
+#include <unistd.h>
+
+#include <cstdio>
+
+#include "viewer/Arguments.h"
+#import "viewer/SampleWindow.h"
+#include "viewer/Toolkit.h"
+
+namespace {
+
+void print(const viewer::Arguments& arguments) {
+  std::printf("sample viewer: host %s, IP address %s, resource folder %s\n", arguments.host.c_str(),
+              arguments.ipAddress.c_str(), arguments.resourceFolder.c_str());
+  std::fflush(stdout);
+}
+
+void showWindow(const viewer::Arguments& arguments) {
+  @autoreleasepool {
+    NSApplication* application = [NSApplication sharedApplication];
+    SampleWindow* window = [[SampleWindow alloc] initWithArguments:arguments];
+    [application setDelegate:window];
+    [window show];
+    [application activateIgnoringOtherApps:YES];
+    [application run];
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const auto arguments = viewer::parseArguments(argc, argv);
+  if (!arguments) {
+    std::fprintf(stderr, "usage: %s -l HOST -i ADDRESS -r FOLDER\n", argv[0]);
+    return 2;
+  }
+
+  print(*arguments);
+  if (viewer::prepareToolkit()) {
+    showWindow(*arguments);
+  } else {
+    pause();
+  }
+  return 0;
+}
