@@ -3,10 +3,11 @@
 import os
 import subprocess
 
+from stage.failure import Failure
 from stage.waiting import wait_until
 
 
-class NoDisplay(Exception):
+class NoDisplay(Failure):
     """No virtual display can be had here; the text is the reason."""
 
 

@@ -2,6 +2,8 @@
 
 import time
 
+from stage.failure import Failure
+
 LIMIT_SECONDS = 60
 
 
@@ -13,5 +15,5 @@ def wait_until(condition, what, limit=LIMIT_SECONDS):
         if answer:
             return answer
         if time.monotonic() > end:
-            raise TimeoutError(f"waited {limit} seconds in vain until {what}")
+            raise Failure(f"waited {limit} seconds in vain until {what}")
         time.sleep(0.05)

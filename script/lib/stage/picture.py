@@ -1,0 +1,42 @@
+"""A picture of a window, and what can be told from it."""
+
+import subprocess
+
+
+class Picture:
+    """RGB pixels, row by row from the top left."""
+
+    def __init__(self, width, height, pixels):
+        self.width, self.height, self.pixels = width, height, pixels
+
+    def __eq__(self, other):
+        return (self.width, self.height, self.pixels) == (other.width, other.height, other.pixels)
+
+    def crop(self, left, top, width, height):
+        rows = [self.pixels[3 * (y * self.width + left):3 * (y * self.width + left + width)]
+                for y in range(top, top + height)]
+        return Picture(width, height, b"".join(rows))
+
+    def pixel(self, x, y):
+        start = 3 * (y * self.width + x)
+        return tuple(self.pixels[start:start + 3])
+
+    def inked_columns(self, darkest=0x60):
+        """How many columns hold a dark pixel. A text has many, a caret has one."""
+        return sum(any(max(self.pixel(x, y)) < darkest for y in range(self.height))
+                   for x in range(self.width))
+
+    def ppm(self):
+        return b"P6 %d %d 255\n" % (self.width, self.height) + self.pixels
+
+    def save(self, file):
+        """Writes the picture to a file, in the format that its name asks for."""
+        subprocess.run(["convert", "ppm:-", str(file)], input=self.ppm(), check=True)
+
+
+def picture_of(window):
+    """What an X window shows now."""
+    data = subprocess.run(["import", "-silent", "-window", window, "-depth", "8", "ppm:-"],
+                          stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, check=True).stdout
+    width, height = (int(number) for number in data.split(maxsplit=3)[1:3])
+    return Picture(width, height, data[-3 * width * height:])
