@@ -4,12 +4,16 @@
 set(bundle "${CMAKE_BINARY_DIR}/VorxLauncher.app")
 set_target_properties(VorxLauncher PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${bundle}")
 
+include(Icons)
+set(icon "${CMAKE_CURRENT_BINARY_DIR}/VorxLauncher.png")
+launcher_icon("${icon}")
+
 get_target_property(localised launcher_resources RESOURCE_FOLDER)
 add_custom_target(bundle_resources ALL
-  DEPENDS launcher_resources "${CMAKE_SOURCE_DIR}/resources/Info-gnustep.plist"
+  DEPENDS launcher_resources "${icon}" "${CMAKE_SOURCE_DIR}/resources/Info-gnustep.plist"
   COMMAND "${CMAKE_COMMAND}" -E copy_directory "${localised}" "${bundle}/Resources"
   COMMAND "${CMAKE_COMMAND}" -E copy_if_different
-          "${CMAKE_SOURCE_DIR}/resources/Info-gnustep.plist" "${bundle}/Resources"
+          "${CMAKE_SOURCE_DIR}/resources/Info-gnustep.plist" "${icon}" "${bundle}/Resources"
   COMMENT "Putting the resources into the bundle")
 
 set(bundle_programs "${bundle}/Resources/bin")
