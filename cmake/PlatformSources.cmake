@@ -6,7 +6,8 @@ if(APPLE)
   set(PROCESS_PLATFORM_SOURCES ProcessTable_mac.cpp ProgramStarter_mac.mm)
   set(NET_PLATFORM_SOURCES HostResolver_mac.cpp LinkDetector_mac.mm)
   set(DISCOVERY_PLATFORM_SOURCES
-    DoneSignal_mac.cpp ListingTool_mac.mm OriginAttribute_mac.cpp PropertyList_mac.mm)
+    DoneSignal_mac.cpp ListConversions.mm ListingTool_mac.mm OriginAttribute_mac.cpp
+    PropertyList_mac.mm)
   set(CONTROLLER_PLATFORM_SOURCES OperationQueues_mac.mm)
   set(APP_PLATFORM_SOURCES PrepareToolkit_mac.cpp)
   set(VIEWER_PLATFORM_SOURCES Toolkit_mac.cpp)

@@ -5,10 +5,10 @@
 
 #import "base/Conversions.h"
 #include "base/FatalError.h"
-#import "controller/Conversions.h"
 #include "controller/LauncherController.h"
 #import "controller/OperationQueues.h"
 #import "controller/WindowBridge.h"
+#import "discovery/ListConversions.h"
 
 namespace launcher {
 
@@ -51,6 +51,13 @@ using launcher::fromToolkit;
 using launcher::toToolkitOrNil;
 
 @implementation ViewController
+
+/// Before the base class's initialisation, which may already load the view. A function, since the
+/// messages that the class answers are those listed in its header and the base class's.
+static void prepare(ViewController* self) {
+  self->_backgroundQueue = [[NSOperationQueue alloc] init];
+  self->_logic = std::make_unique<launcher::WindowLogic>(self, self->_backgroundQueue);
+}
 
 - (NSButton*)launchButton {
   return connected(_launchButton, __LINE__);
@@ -149,19 +156,13 @@ using launcher::toToolkitOrNil;
 }
 
 - (instancetype)initWithNibName:(NSString*)name bundle:(NSBundle*)bundle {
-  [self prepare];
+  prepare(self);
   return [super initWithNibName:name bundle:bundle];
 }
 
 - (instancetype)initWithCoder:(NSCoder*)coder {
-  [self prepare];
+  prepare(self);
   return [super initWithCoder:coder];
-}
-
-/// Before the base class's initialisation, which may already load the view.
-- (void)prepare {
-  _backgroundQueue = [[NSOperationQueue alloc] init];
-  _logic = std::make_unique<launcher::WindowLogic>(self, _backgroundQueue);
 }
 
 - (void)dealloc {

@@ -4,7 +4,7 @@
 
 @class NSString;
 
-__attribute__((objc_exception)) FOUNDATION_EXPORT @interface NSException : NSObject
+FOUNDATION_EXPORT __attribute__((objc_exception)) @interface NSException : NSObject
 @property(readonly, copy) NSString* name;
 @property(readonly, copy) NSString* reason;
 @end
