@@ -10,7 +10,7 @@ if(APPLE)
     PropertyList_mac.mm)
   set(CONTROLLER_PLATFORM_SOURCES OperationQueues_mac.mm)
   set(APP_PLATFORM_SOURCES PrepareToolkit_mac.cpp)
-  set(VIEWER_PLATFORM_SOURCES Toolkit_mac.cpp)
+  set(VIEWER_PLATFORM_SOURCES Toolkit_mac.mm)
 else()
   set(BASE_PLATFORM_SOURCES
     Sleeper_linux.cpp Spawn_linux.cpp UnicodeRules_linux.cpp Url_linux.cpp)

@@ -37,7 +37,8 @@ NSString* textOf(const std::string& bytes) {
 
   _window = [[NSWindow alloc]
       initWithContentRect:NSMakeRect(0, 0, width, height)
-                styleMask:NSTitledWindowMask | NSClosableWindowMask | NSMiniaturizableWindowMask
+                styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskClosable |
+                          NSWindowStyleMaskMiniaturizable
                   backing:NSBackingStoreBuffered
                     defer:NO];
   [_window setTitle:@"Sample Viewer"];

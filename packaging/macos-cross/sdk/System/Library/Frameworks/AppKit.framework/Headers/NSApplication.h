@@ -4,12 +4,19 @@
 
 @protocol NSApplicationDelegate;
 
+typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
+  NSApplicationActivationPolicyRegular,
+};
+
 FOUNDATION_EXPORT @interface NSResponder : NSObject <NSCoding>
 @end
 
 FOUNDATION_EXPORT @interface NSApplication : NSResponder
 @property(class, readonly, retain) NSApplication* sharedApplication;
 @property(assign) id<NSApplicationDelegate> delegate;
+- (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)policy;
+- (void)activateIgnoringOtherApps:(BOOL)flag;
+- (void)run;
 - (void)terminate:(id)sender;
 @end
 

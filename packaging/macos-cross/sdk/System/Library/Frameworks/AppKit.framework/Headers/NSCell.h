@@ -4,8 +4,11 @@
 
 @class NSFont;
 
+typedef NS_ENUM(NSUInteger, NSLineBreakMode) { NSLineBreakByCharWrapping = 1 };
+
 FOUNDATION_EXPORT @interface NSCell : NSObject <NSCopying, NSCoding>
 @property(retain) NSFont* font;
+@property NSLineBreakMode lineBreakMode;
 - (NSRect)drawingRectForBounds:(NSRect)bounds;
 @end
 

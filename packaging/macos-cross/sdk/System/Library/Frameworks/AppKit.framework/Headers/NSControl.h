@@ -1,12 +1,14 @@
 #pragma once
 
+#import <AppKit/NSCell.h>
 #import <AppKit/NSView.h>
 
 @protocol NSTextFieldDelegate;
 
 FOUNDATION_EXPORT @interface NSControl : NSView
-@property BOOL enabled;
-- (BOOL)isEnabled;
+@property(getter=isEnabled) BOOL enabled;
+@property(retain) NSFont* font;
+@property(retain) __kindof NSCell* cell;
 @property(copy) NSString* stringValue;
 @end
 
@@ -17,6 +19,11 @@ FOUNDATION_EXPORT @interface NSButton : NSControl
 
 FOUNDATION_EXPORT @interface NSTextField : NSControl
 @property(assign) id<NSTextFieldDelegate> delegate;
+@property(getter=isEditable) BOOL editable;
+@property(getter=isSelectable) BOOL selectable;
+@property(getter=isBezeled) BOOL bezeled;
+@property(getter=isBordered) BOOL bordered;
+@property BOOL drawsBackground;
 @end
 
 @protocol NSControlTextEditingDelegate <NSObject>

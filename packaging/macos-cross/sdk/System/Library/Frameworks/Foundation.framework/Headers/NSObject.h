@@ -12,7 +12,7 @@
 #endif
 
 #define NS_ENUM(type, name) enum name : type name; enum name : type
-#define NS_OPTIONS(type, name) enum name : type name; enum name : type
+#define NS_OPTIONS(type, name) type name; enum : type
 
 typedef double NSTimeInterval;
 

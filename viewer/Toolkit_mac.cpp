@@ -1,7 +1,0 @@
-#include "viewer/Toolkit.h"
-
-namespace viewer {
-
-bool prepareToolkit() { return true; }
-
-}  // namespace viewer

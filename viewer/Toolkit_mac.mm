@@ -1,0 +1,13 @@
+#import <AppKit/AppKit.h>
+
+#include "viewer/Toolkit.h"
+
+namespace viewer {
+
+/// A program outside of a bundle has no place among the applications unless it asks for one.
+bool prepareToolkit() {
+  [[NSApplication sharedApplication] setActivationPolicy:NSApplicationActivationPolicyRegular];
+  return true;
+}
+
+}  // namespace viewer
