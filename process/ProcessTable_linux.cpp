@@ -1,7 +1,6 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/pidfd.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -9,6 +8,10 @@
 #include <optional>
 #include <string>
 #include <type_traits>
+
+extern "C" {  // which the header does without before glibc 2.37
+#include <sys/pidfd.h>
+}
 
 #include "process/ProcessTable.h"
 

@@ -24,6 +24,7 @@
 #include "base/Spawn_linux.h"
 #include "tests/contract/Eventually.h"
 #include "tests/contract/Pipe.h"
+#include "tests/contract/Processes.h"
 
 namespace launcher {
 namespace {
@@ -48,13 +49,6 @@ struct WaitingChild {
       spawn({.path = testChild, .arguments = {"wait"}, .output = pipe.writer()});
   pid_t pid = std::stoi(pipe.line());
 };
-
-/// Neither running ones nor zombies.
-bool hasNoChildren() {
-  return waitid(P_ALL, 0, nullptr, WEXITED | WNOHANG | WNOWAIT) == -1 && errno == ECHILD;
-}
-
-bool isThere(pid_t pid) { return kill(pid, 0) == 0; }
 
 std::vector<std::string> entries(const char* folder) {
   std::vector<std::string> names;
@@ -192,7 +186,7 @@ TEST(SpawnTest, ADroppedChildRunsOnAndIsReaped) {
   child.handle.reset();
   EXPECT_TRUE(isThere(child.pid));
   EXPECT_FALSE(hasNoChildren());
-  kill(child.pid, SIGTERM);
+  sendSignal(child.pid, SIGTERM);
   EXPECT_TRUE(eventually(hasNoChildren));
 }
 
@@ -280,7 +274,7 @@ TEST(SpawnTest, TerminateAfterTheExitSignalsNobody) {
   EXPECT_FALSE(*wronged);
 
   const auto control = strangerIsSignalledAfterAll(
-      [](WaitingChild& child) { return [&] { kill(child.pid, SIGTERM); }; });
+      [](WaitingChild& child) { return [&] { sendSignal(child.pid, SIGTERM); }; });
   EXPECT_TRUE(control.value_or(true));
 }
 

@@ -2,12 +2,17 @@
 // ends it where a test has lost it.
 
 #include <fcntl.h>
+#include <pthread.h>
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
+#include <fstream>
 #include <iostream>
+#include <string>
 #include <string_view>
+#include <thread>
 
 namespace {
 
@@ -43,6 +48,33 @@ int printSignals() {
   return 0;
 }
 
+/// Writes this process's identifier and arguments to a file that appears as a whole.
+void announce(int argc, char** argv) {
+  const std::string file = argv[2];
+  std::ofstream draft(file + ".draft");
+  draft << getpid() << '\n';
+  for (int i = 3; i < argc; ++i) draft << '[' << argv[i] << "]\n";
+  draft.close();
+  std::rename((file + ".draft").c_str(), file.c_str());
+}
+
+int announceAndWait(int argc, char** argv) {
+  announce(argc, argv);
+  pause();
+  return 0;
+}
+
+/// Goes on in another thread when the first one has ended.
+int announceWithoutFirstThread(int argc, char** argv) {
+  const pthread_t first = pthread_self();
+  std::thread([=] {
+    pthread_join(first, nullptr);
+    announce(argc, argv);
+    pause();
+  }).detach();
+  pthread_exit(nullptr);
+}
+
 int printVariable(int argc, char** argv) {
   const char* value = argc > 2 ? std::getenv(argv[2]) : nullptr;
   std::cout << (value == nullptr ? "" : value);
@@ -65,6 +97,8 @@ int waitForSignal() {
 int main(int argc, char** argv) {
   alarm(300);
   const std::string_view verb = argc > 1 ? argv[1] : "exit";
+  if (verb == "announce") return announceAndWait(argc, argv);
+  if (verb == "announce-without-first-thread") return announceWithoutFirstThread(argc, argv);
   if (verb == "arguments") return printArguments(argc, argv);
   if (verb == "both") return printToBoth();
   if (verb == "descriptors") return printDescriptors();

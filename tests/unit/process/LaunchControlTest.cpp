@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <memory>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "process/LaunchControl.h"
@@ -213,6 +216,49 @@ TEST_F(LaunchControlTest, NoLockIsHeldWhileItWaitsStartsOrStops) {
   later.onTerminate = askEverything;
   control_.terminateProc();
   EXPECT_EQ(calls, 4);
+}
+
+/// Services without memory, for several threads at once.
+struct EmptyTable : FakeProcessTable {
+  int probeSize(std::size_t& length) const override {
+    length = 0;
+    return 0;
+  }
+  int fetch(std::byte* /*buffer*/, std::size_t& /*length*/) const override { return 0; }
+};
+
+struct ForgetfulStarter : ProgramStarter {
+  std::atomic<int> terminations = 0;
+
+  std::shared_ptr<RunningProcess> start(const std::string& /*path*/, const Texts&) override {
+    auto process = std::make_shared<FakeRunningProcess>();
+    process->onTerminate = [this] { ++terminations; };
+    return process;
+  }
+};
+
+TEST(LaunchControlThreadsTest, EveryMemberMayBeCalledAtTheSameTime) {
+  const FakeBundle bundle;
+  const EmptyTable table;
+  ForgetfulStarter starter;
+  FakeSleeper sleeper;
+  LaunchControl control({bundle, table, starter, sleeper});
+
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 4; ++i) {
+    threads.emplace_back([&control, i] {
+      for (int run = 0; run < 200; ++run) {
+        control.launchProc("host", "1.2.3.4");
+        control.runningProcess();
+        control.setRunningAppPID(control.runningAppPID() + i);
+        control.terminateProc();
+      }
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_EQ(control.runningProcess(), nullptr);
+  EXPECT_GE(starter.terminations, 200);
+  EXPECT_LE(starter.terminations, 800);
 }
 
 }  // namespace

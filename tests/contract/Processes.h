@@ -1,0 +1,24 @@
+#pragma once
+
+#include <signal.h>
+#include <sys/wait.h>
+
+#include <cerrno>
+
+namespace launcher {
+
+/// Whether the process exists, be it as a zombie.
+inline bool isThere(pid_t pid) { return pid > 0 && kill(pid, 0) == 0; }
+
+/// Signals one process, never the many that `kill` means by 0 and below.
+inline void sendSignal(pid_t pid, int signal) {
+  if (pid > 0) kill(pid, signal);
+}
+
+/// Whether this process has no child left, neither a running one nor a zombie.
+inline bool hasNoChildren() {
+  siginfo_t info;
+  return waitid(P_ALL, 0, &info, WEXITED | WNOHANG | WNOWAIT) == -1 && errno == ECHILD;
+}
+
+}  // namespace launcher

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+namespace launcher {
+
+/// An empty folder that goes away with everything in it.
+class ScratchFolder {
+ public:
+  ScratchFolder() : path_(testing::TempDir() + "launcher-test-XXXXXX") { mkdtemp(path_.data()); }
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+  ~ScratchFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+
+  const std::string& path() const { return path_; }
+
+  /// The path of an entry, which need not be there.
+  std::string file(const std::string& name) const { return path_ + "/" + name; }
+
+ private:
+  std::string path_;
+};
+
+/// All that a file holds; empty where it is not there.
+inline std::string contentOf(const std::string& path) {
+  std::ostringstream content;
+  content << std::ifstream(path).rdbuf();
+  return content.str();
+}
+
+}  // namespace launcher

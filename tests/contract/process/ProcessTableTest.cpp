@@ -1,0 +1,179 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
+#include <list>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "process/ProcessHelpers.h"
+#include "process/ProcessTable.h"
+#include "tests/contract/process/NamedProcess.h"
+
+namespace launcher {
+namespace {
+
+constexpr std::byte untouched{0xEE};
+
+const ProcessTable& table() {
+  static const std::unique_ptr<ProcessTable> instance = makeProcessTable();
+  return *instance;
+}
+
+ProcessId search(std::string_view name) { return ProcessHelpers::getRunningProcess(name, table()); }
+
+/// A start of a name that no other process on the machine has.
+std::string own() { return "zq" + std::to_string(getpid()); }
+
+/// A name of exactly so many bytes, as unique.
+std::string ownOf(std::size_t bytes) {
+  std::string name = own();
+  name.resize(bytes, '-');
+  return name;
+}
+
+/// A fetch into a buffer of so many bytes, with more behind it.
+struct Fetch {
+  explicit Fetch(std::size_t capacity)
+      : buffer(capacity + table().recordSize(), untouched), length(capacity) {
+    result = table().fetch(buffer.data(), length);
+    error = result == -1 ? errno : 0;
+  }
+
+  std::vector<ProcessId> pids() const {
+    std::vector<ProcessId> found;
+    for (std::size_t at = 0; at < length; at += table().recordSize()) {
+      found.push_back(table().read(buffer.data() + at).pid);
+    }
+    return found;
+  }
+
+  bool leavesTheRestUntouched() const {
+    return std::all_of(buffer.begin() + static_cast<std::ptrdiff_t>(length), buffer.end(),
+                       [](std::byte byte) { return byte == untouched; });
+  }
+
+  std::vector<std::byte> buffer;
+  std::size_t length;
+  int result = 0;
+  int error = 0;
+};
+
+std::size_t probedLength() {
+  std::size_t length = 0;
+  EXPECT_EQ(table().probeSize(length), 0);
+  return length;
+}
+
+void expectSearch(const std::string& processName, const std::string& searched, bool isFound) {
+  const NamedProcess process(processName);
+  EXPECT_EQ(search(searched), isFound ? process.pid() : noProcess)
+      << "process: '" << processName << "' searched: '" << searched << "'";
+}
+
+TEST(ProcessTableTest, FindsRealProcessesByName) {
+  expectSearch(own(), own(), true);
+  expectSearch(own(), own() + "link", true);
+  expectSearch(own() + "s", own(), false);
+  expectSearch("Z" + own().substr(1), own(), false);
+  expectSearch(own(), "ZQ" + own().substr(2), false);
+  expectSearch(own() + " x", own() + " xy", true);
+  expectSearch(own() + "(\n)", own() + "(\n)", true);
+  expectSearch(own() + "\u00e9", own() + "e\u0301", true);
+}
+
+TEST(ProcessTableTest, FindsALongNameByItsKeptBytes) {
+  for (const std::size_t bytes : {14U, 15U, 16U, 17U, 18U, 40U}) {
+    expectSearch(ownOf(bytes), ownOf(bytes), true);
+  }
+  expectSearch(ownOf(40), ownOf(20), true);
+  expectSearch(ownOf(40), ownOf(14), false);
+}
+
+TEST(ProcessTableTest, LosesAProcessThatHasEnded) {
+  NamedProcess process(own());
+  EXPECT_EQ(search(own()), process.pid());
+  process.stop();
+  EXPECT_EQ(search(own()), noProcess);
+}
+
+TEST(ProcessTableTest, ListsEachProcessOnce) {
+  const NamedProcess process(own());
+  const Fetch fetch(2 * probedLength());
+  EXPECT_EQ(fetch.result, 0);
+  const std::vector<ProcessId> pids = fetch.pids();
+  EXPECT_EQ(std::count(pids.begin(), pids.end(), process.pid()), 1);
+  EXPECT_EQ(std::count(pids.begin(), pids.end(), getpid()), 1);
+}
+
+TEST(ProcessTableTest, TheProbeCountsWholeRecords) {
+  const std::size_t before = probedLength();
+  EXPECT_GT(before, 0U);
+  EXPECT_EQ(before % table().recordSize(), 0U);
+}
+
+TEST(ProcessTableTest, TheProbeForgetsTheLengthItIsGiven) {
+  std::size_t length = 1'000'000'000;
+  EXPECT_EQ(table().probeSize(length), 0);
+  EXPECT_LT(length, 1'000'000'000U);
+}
+
+TEST(ProcessTableTest, ALargeBufferIsFilledAsFarAsTheTableGoes) {
+  const Fetch fetch(2 * probedLength());
+  EXPECT_EQ(fetch.result, 0);
+  EXPECT_GT(fetch.length, 0U);
+  EXPECT_EQ(fetch.length % table().recordSize(), 0U);
+  EXPECT_TRUE(fetch.leavesTheRestUntouched());
+}
+
+TEST(ProcessTableTest, ATooSmallBufferIsFilledWithWholeRecords) {
+  const std::size_t record = table().recordSize();
+  const NamedProcess one(own() + "1");
+  const NamedProcess two(own() + "2");
+  for (const std::size_t capacity : {std::size_t{0}, record - 1, record, record + 1, 2 * record}) {
+    const Fetch fetch(capacity);
+    EXPECT_EQ(fetch.result, -1) << capacity;
+    EXPECT_EQ(fetch.error, ENOMEM) << capacity;
+    EXPECT_EQ(fetch.length, capacity / record * record) << capacity;
+    EXPECT_TRUE(fetch.leavesTheRestUntouched()) << capacity;
+  }
+}
+
+TEST(ProcessTableTest, ATableThatHasGrownSinceTheProbeIsTooLarge) {
+  std::list<NamedProcess> processes;
+  const auto growsBetween = [&] {
+    const std::size_t probed = probedLength();
+    for (int i = 0; i < 10; ++i) processes.emplace_back(own());
+    const Fetch fetch(probed);
+    return fetch.result == -1 && fetch.error == ENOMEM && fetch.length == probed;
+  };
+  EXPECT_TRUE(eventually(growsBetween));  // others on the machine may end at the same time
+}
+
+TEST(ProcessTableTest, AProcessIsFoundFromSeveralThreadsWhileOthersComeAndGo) {
+  NamedProcess process(own());
+  const auto starter = makeProgramStarter();
+  const auto finds = [&] { return search(own()) == process.pid(); };
+  std::atomic<int> found = 0;
+  std::atomic<int> running = 4;
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 4; ++i) {
+    threads.emplace_back([&] {
+      // A single search may miss it: a process with a lower identifier that starts between probe
+      // and fetch pushes it out of the snapshot.
+      for (int run = 0; run < 50; ++run) found += eventually(finds) ? 1 : 0;
+      --running;
+    });
+  }
+  while (running > 0) starter->start(TEST_CHILDREN "/test-child", {"exit"});
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_EQ(found, 200);
+  process.stop();
+  EXPECT_TRUE(eventually(hasNoChildren));
+}
+
+}  // namespace
+}  // namespace launcher
