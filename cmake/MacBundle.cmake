@@ -39,8 +39,8 @@ foreach(file IN LISTS localised_files)
   if(name MATCHES "Localizable\\.strings$")
     set(names "${compiled_folder}/InfoPlist.strings")
     add_custom_command(OUTPUT "${names}"
-      DEPENDS "${file}" "${CMAKE_SOURCE_DIR}/resources/bundle_names.py"
-      COMMAND Python3::Interpreter "${CMAKE_SOURCE_DIR}/resources/bundle_names.py"
+      DEPENDS "${file}" "${CMAKE_SOURCE_DIR}/script/lib/localised/bundle_names.py"
+      COMMAND Python3::Interpreter -B "${CMAKE_SOURCE_DIR}/script/lib/localised/bundle_names.py"
               "${file}" "${names}")
     bundle_files("Resources/${language}" "${file}" "${names}")
   elseif(IBTOOL)

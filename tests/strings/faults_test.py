@@ -3,7 +3,7 @@
 import unittest
 
 from faults import faults, faults_of_english
-from tables import Entry
+from localised.tables import Entry
 
 SHOWN = {"Launch": "Launch button", "Looking up '%@'": "Status", "About Vorx": "Menu"}
 GOOD = [Entry("Launch button", "Launch", "Starten"),

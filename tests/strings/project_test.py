@@ -4,8 +4,8 @@ import pathlib
 import unittest
 
 from faults import faults, faults_of_english
-from shown import texts_of_code, texts_of_layout
-from tables import decode, parse
+from localised.shown import texts_of_code, texts_of_layout
+from localised.tables import decode, parse
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 RESOURCES = ROOT / "resources"

@@ -2,7 +2,7 @@
 
 import unittest
 
-from shown import texts_of_code, texts_of_layout
+from localised.shown import texts_of_code, texts_of_layout
 
 
 class CodeTest(unittest.TestCase):

@@ -2,7 +2,7 @@
 
 import unittest
 
-from tables import Entry, Unreadable, decode, parse
+from localised.tables import Entry, Unreadable, decode, parse
 
 
 class DecodeTest(unittest.TestCase):

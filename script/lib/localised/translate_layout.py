@@ -7,8 +7,6 @@ import pathlib
 import sys
 import xml.etree.ElementTree
 
-sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "tests" / "strings"))
-
 import shown
 import tables
 

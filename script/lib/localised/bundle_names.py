@@ -6,8 +6,6 @@ usage: bundle_names.py TABLE.strings OUTPUT.strings
 import pathlib
 import sys
 
-sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / "tests" / "strings"))
-
 import tables
 
 _PROGRAM_NAME = "Vorx Launcher"
@@ -17,7 +15,7 @@ def main(table_path, output_path):
     entries = tables.parse(tables.decode(pathlib.Path(table_path).read_bytes()))
     name = {entry.key: entry.text for entry in entries}[_PROGRAM_NAME]
     escaped = name.replace("\\", "\\\\").replace('"', '\\"')
-    lines = [f'{key} = "{escaped}";\n' for key in ("CFBundleDisplayName", "CFBundleName")]
+    lines = [f'"{key}" = "{escaped}";\n' for key in ("CFBundleDisplayName", "CFBundleName")]
     pathlib.Path(output_path).write_text("".join(lines), encoding="utf-8-sig")
 
 

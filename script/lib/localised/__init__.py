@@ -1,0 +1,1 @@
+"""The program's texts in its languages: read for the build, compared by the tests."""
