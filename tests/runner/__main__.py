@@ -3,11 +3,8 @@
 import sys
 import time
 
-from project import ROOT
 from report import FAILED, SKIPPED, Report, Result, Unable
 from suites import SUITES
-
-sys.path.insert(0, str(ROOT / "script" / "lib"))
 
 
 def run(name):

@@ -1,39 +1,50 @@
-"""Runs a suite's program: with a time limit, apart from the machine, on a display of its own."""
+"""Runs a suite's program within a time limit."""
 
 import contextlib
 import os
+import pathlib
 import signal
 import subprocess
+import tempfile
 
-from isolation import isolated
-from project import ROOT
+from apart import WITHOUT_DISPLAY, apart
+from project import BUILD, ROOT
 from report import Unable
 
 LIMIT_SECONDS = 900
 
 
-def execute(command, *, apart=False, environment=None):
-    """Runs a program and gives its exit status and what it printed. A program that hangs is ended."""
-    process = subprocess.Popen(isolated(command) if apart else command, cwd=ROOT, text=True,
-                               errors="replace", env={**os.environ, **(environment or {})},
-                               start_new_session=True, stdin=subprocess.DEVNULL,
-                               stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+@contextlib.contextmanager
+def scratch_folder():
+    """An empty folder for one run of a suite."""
+    with tempfile.TemporaryDirectory(prefix="suite-", dir=BUILD) as folder:
+        yield pathlib.Path(folder)
+
+
+def _communicate(process):
     try:
-        output, _ = process.communicate(timeout=LIMIT_SECONDS)
-        return process.returncode, output
+        return process.communicate(timeout=LIMIT_SECONDS)[0]
     except subprocess.TimeoutExpired:
         os.killpg(process.pid, signal.SIGKILL)
-        output, _ = process.communicate()
-        return -signal.SIGKILL, f"{output}\nended after {LIMIT_SECONDS} seconds without an end"
+        return f"{process.communicate()[0]}\nended after {LIMIT_SECONDS} seconds"
 
 
-@contextlib.contextmanager
-def own_display():
-    """A virtual display with a window manager; gives the environment that leads to it."""
-    from stage.display import NoDisplay, VirtualDisplay
-    try:
-        display = VirtualDisplay()
-    except NoDisplay as reason:
-        raise Unable(str(reason)) from reason
-    with display:
-        yield display.environment
+def execute(command, *, environment=None):
+    """Runs a program and gives its exit status and what it printed. One that hangs is ended."""
+    process = subprocess.Popen(command, cwd=ROOT, env={**os.environ, **(environment or {})},
+                               text=True, errors="replace", start_new_session=True,
+                               stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                               stderr=subprocess.STDOUT)
+    output = _communicate(process)
+    return process.returncode, output
+
+
+def execute_apart(command, *, folder, display, environment=None):
+    """The same, apart from the machine. Raises `Unable` where there can be no display."""
+    place_of_tmp = folder / "tmp"
+    place_of_tmp.mkdir()
+    status, output = execute(apart(command, folder=place_of_tmp, display=display),
+                             environment=environment)
+    if status == WITHOUT_DISPLAY:
+        raise Unable(output.strip())
+    return status, output

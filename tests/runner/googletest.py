@@ -1,30 +1,27 @@
 """A suite that is one GoogleTest program."""
 
-import contextlib
-import pathlib
-import tempfile
 import xml.etree.ElementTree as ElementTree
 
-from execution import execute, own_display
+from execution import execute, execute_apart, scratch_folder
 from project import BUILD, build
 from report import FAILED, PASSED, SKIPPED, Result
 
 
 class GoogleTestSuite:
-    def __init__(self, program, *, isolated=False, display=False):
+    def __init__(self, program, *, apart=False, display=False):
         self._program = program
-        self._isolated = isolated
+        self._apart = apart
         self._display = display
 
     def run(self):
         build(self._program)
-        with contextlib.ExitStack() as stack:
-            environment = stack.enter_context(own_display()) if self._display else {}
-            folder = stack.enter_context(tempfile.TemporaryDirectory())
-            record = pathlib.Path(folder) / "results.xml"
-            program = BUILD / "tests" / self._program
-            status, output = execute([str(program), f"--gtest_output=xml:{record}"],
-                                     apart=self._isolated, environment=environment)
+        with scratch_folder() as folder:
+            record = folder / "results.xml"
+            command = [str(BUILD / "tests" / self._program), f"--gtest_output=xml:{record}"]
+            if self._apart:
+                status, output = execute_apart(command, folder=folder, display=self._display)
+            else:
+                status, output = execute(command)
             return _results(record, self._program, status, output)
 
 

@@ -35,5 +35,8 @@ def configure():
 
 
 def build(*targets):
+    """Brings targets up to date; nothing where none is named."""
+    if not targets:
+        return
     configure()
     run_quietly("cmake", "--build", "--preset", PRESET, "--target", *targets)

@@ -1,72 +1,40 @@
-"""A suite that is a folder of Python tests. Run as a program, it is what runs the folder."""
+"""A suite that is a folder of Python tests."""
 
-import contextlib
 import json
 import pathlib
 import sys
-import tempfile
-import unittest
 
-from report import FAILED, PASSED, SKIPPED, Result
+from execution import execute, execute_apart, scratch_folder
+from project import ROOT, build
+from report import FAILED, Result
+
+PROGRAM = pathlib.Path(__file__).with_name("run_python_tests.py")
+ENVIRONMENT = {"PYTHONPATH": str(ROOT / "script" / "lib"), "PYTHONDONTWRITEBYTECODE": "1"}
 
 
 class PythonSuite:
-    def __init__(self, folder, *, targets=(), isolated=False, display=False):
+    def __init__(self, folder, *, targets=(), apart=False, display=False):
         self._folder = folder
         self._targets = targets
-        self._isolated = isolated
+        self._apart = apart
         self._display = display
 
     def run(self):
-        from execution import execute, own_display
-        from project import ROOT, build
-
-        if self._targets:
-            build(*self._targets)
-        with contextlib.ExitStack() as stack:
-            environment = {"PYTHONPATH": str(ROOT / "script" / "lib"), "PYTHONUNBUFFERED": "1",
-                           "PYTHONDONTWRITEBYTECODE": "1"}
-            if self._display:
-                environment.update(stack.enter_context(own_display()))
-            folder = stack.enter_context(tempfile.TemporaryDirectory())
-            record = pathlib.Path(folder) / "results.json"
-            status, output = execute([sys.executable, __file__, str(ROOT / self._folder), str(record)],
-                                     apart=self._isolated, environment=environment)
-            if not record.exists():
-                return [Result(self._folder, FAILED, f"{output}\nended with status {status}")]
-            return [Result(**row) for row in json.loads(record.read_text())]
+        build(*self._targets)
+        with scratch_folder() as folder:
+            record = folder / "results"
+            command = [sys.executable, str(PROGRAM), str(ROOT / self._folder), str(record)]
+            if self._apart:
+                status, output = execute_apart(command, folder=folder, display=self._display,
+                                               environment=ENVIRONMENT)
+            else:
+                status, output = execute(command, environment=ENVIRONMENT)
+            return _results(record, self._folder, status, output)
 
 
-class _Recorder(unittest.TestResult):
-    def __init__(self):
-        super().__init__()
-        self.rows = []
-
-    def _add(self, test, outcome, detail=""):
-        name = test.id() if hasattr(test, "id") else str(test)
-        self.rows.append({"name": name, "outcome": outcome, "detail": detail})
-
-    def addSuccess(self, test):
-        self._add(test, PASSED)
-
-    def addSkip(self, test, reason):
-        self._add(test, SKIPPED, reason)
-
-    def addFailure(self, test, error):
-        self._add(test, FAILED, self._exc_info_to_string(error, test))
-
-    addError = addFailure
-
-    def addSubTest(self, test, subtest, error):
-        if error is not None:
-            self.addFailure(subtest, error)
-
-
-def _main(folder, record):
-    recorder = _Recorder()
-    unittest.defaultTestLoader.discover(folder, pattern="*_test.py", top_level_dir=folder).run(recorder)
-    pathlib.Path(record).write_text(json.dumps(recorder.rows))
-
-
-if __name__ == "__main__":
-    _main(*sys.argv[1:])
+def _results(record, folder, status, output):
+    lines = record.read_text().splitlines() if record.exists() else []
+    results = [Result(**json.loads(line)) for line in lines]
+    if status != 0:
+        results.append(Result(folder, FAILED, f"{output}\nended with status {status}"))
+    return results

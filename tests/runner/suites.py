@@ -9,8 +9,7 @@ SUITES = {
     "strings": PythonSuite("tests/strings"),
     "icon": PythonSuite("tests/icon"),
     "unit": GoogleTestSuite("unit-tests"),
-    "contract": GoogleTestSuite("contract-tests", isolated=True),
-    "window": GoogleTestSuite("window-tests", isolated=True, display=True),
-    "e2e": PythonSuite("tests/e2e", targets=["all"],
-                       isolated=True, display=True),
+    "contract": GoogleTestSuite("contract-tests", apart=True),
+    "window": GoogleTestSuite("window-tests", apart=True, display=True),
+    "e2e": PythonSuite("tests/e2e", targets=["sample-viewer"], apart=True, display=True),
 }

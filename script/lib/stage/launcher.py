@@ -3,7 +3,6 @@
 import pathlib
 import xml.etree.ElementTree as ElementTree
 
-from stage.waiting import wait_until
 from stage.window import Window
 
 PROGRAM = "VorxLauncher"
@@ -52,14 +51,3 @@ class LauncherWindow(Window):
         left, top, width, height = self.frame("vorxLocation")
         inside = self.picture().crop(left + 4, top + 4, width - 8, height - 8)
         return inside.inked_columns() > 10
-
-    def settled_picture(self):
-        """The window's picture once it no longer changes."""
-        seen = [self.picture()]
-
-        def settled():
-            seen.append(self.picture())
-            return seen[-1] == seen[-2]
-
-        wait_until(settled, "the window's picture is settled")
-        return seen[-1]

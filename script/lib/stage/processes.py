@@ -45,7 +45,8 @@ def _signal_all(processes, number):
             pass
 
 
-def _none_left():
+def none_left():
+    """Whether every process below this one has ended and is reaped."""
     try:
         while os.waitpid(-1, os.WNOHANG) != (0, 0):
             pass
@@ -58,7 +59,7 @@ def end_descendants():
     """Ends every process below this one: asked first, then made to."""
     _signal_all(descendants(), signal.SIGTERM)
     try:
-        wait_until(_none_left, "the descendants have ended", limit=5)
+        wait_until(none_left, "the descendants have ended", limit=5)
     except Failure:
         _signal_all(descendants(), signal.SIGKILL)
-        wait_until(_none_left, "the descendants have ended")
+        wait_until(none_left, "the descendants have ended")

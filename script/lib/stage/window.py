@@ -41,6 +41,21 @@ class Window:
     def picture(self):
         return picture_of(self.identifier)
 
+    def settled_picture(self):
+        """The window's picture once it no longer changes."""
+        seen = [self.picture()]
+
+        def settled():
+            seen.append(self.picture())
+            return seen[-1] == seen[-2]
+
+        wait_until(settled, "the window's picture is settled")
+        return seen[-1]
+
+    def states(self):
+        """What the window manager says of the window."""
+        return _output("xprop", "-id", self.identifier, "_NET_WM_STATE")
+
     def click(self, x, y):
         _output("xdotool", "mousemove", str(self.left + x), str(self.top + y), "click", "1")
 
