@@ -24,6 +24,9 @@ std::u16string utf16(std::string_view text);
 /// The text of UTF-16 units; a lone surrogate becomes U+FFFD.
 std::string utf8(std::u16string_view units);
 
+/// The text of one code point, which is no surrogate and at most U+10FFFF.
+std::string utf8(char32_t point);
+
 /// The bytes as well-formed UTF-8, each ill-formed sequence replaced by U+FFFD.
 std::string repairedUtf8(std::string_view bytes);
 

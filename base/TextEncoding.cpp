@@ -119,6 +119,12 @@ std::string utf8(std::u16string_view units) {
   return text;
 }
 
+std::string utf8(char32_t point) {
+  std::string text;
+  append(text, point);
+  return text;
+}
+
 std::string repairedUtf8(std::string_view bytes) {
   if (isUtf8(bytes)) return std::string(bytes);
   return utf8(utf16(bytes));

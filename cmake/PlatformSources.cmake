@@ -17,7 +17,9 @@ else()
   set(PROCESS_PLATFORM_SOURCES ProcessTable_linux.cpp ProgramStarter_linux.cpp)
   set(NET_PLATFORM_SOURCES HostResolver_linux.cpp)
   set(DISCOVERY_PLATFORM_SOURCES
-    DoneSignal_linux.cpp ListingTool_linux.cpp OriginAttribute_linux.cpp PropertyList_linux.cpp)
+    BinaryObjects_linux.cpp DoneSignal_linux.cpp ListingTool_linux.cpp OriginAttribute_linux.cpp
+    PropertyList_linux.cpp PropertyListBinary_linux.cpp PropertyListXml_linux.cpp
+    XmlEncoding_linux.cpp XmlLeaves_linux.cpp XmlMarkup_linux.cpp XmlText_linux.cpp)
   set(CONTROLLER_PLATFORM_SOURCES OperationQueues_gnustep.mm)
   set(APP_PLATFORM_SOURCES PrepareToolkit_gnustep.mm)
   set(VIEWER_PLATFORM_SOURCES Toolkit_gnustep.cpp)

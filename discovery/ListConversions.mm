@@ -62,7 +62,8 @@ class Conversion {
     PropertyList::Dictionary values;
     for (id key in objects) {
       if (exceeded_ || ![key isKindOfClass:[NSString class]]) return {};
-      values[textOf(key)] = valueOf([objects objectForKey:key]);
+      std::string keyText = textOf(key);
+      values.emplace_back(std::move(keyText), valueOf([objects objectForKey:key]));
     }
     return values;
   }

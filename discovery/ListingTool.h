@@ -18,17 +18,18 @@ class ListingTool {
 
   virtual ~ListingTool() = default;
 
-  /// Calls `handler` on a thread of its own with each piece of output as it comes. The empty
-  /// handler removes it: once this returns no call is under way and none follows.
+  /// Before the launch: has `handler` called on a thread of its own with each piece of output as it
+  /// comes. The empty handler removes it, at any time but from within it: once this returns no call
+  /// is under way and none follows, even if a child of the tool still holds the output open.
   virtual void setOutputHandler(OutputHandler handler) = 0;
 
-  /// Calls `handler` once on a thread of its own after the tool has ended.
+  /// Before the launch: has `handler` called once on a thread of its own after the tool has ended.
   virtual void setExitHandler(ExitHandler handler) = 0;
 
   /// Starts the tool. False where that is impossible; then no handler is ever called.
   virtual bool launch() = 0;
 
-  /// Blocks until the tool has ended; the exit handler may still be running.
+  /// After the launch: blocks until the tool has ended; the exit handler may still be running.
   virtual void waitUntilExit() = 0;
 };
 

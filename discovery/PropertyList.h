@@ -1,9 +1,9 @@
 #pragma once
 
-#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -18,7 +18,8 @@ class PropertyList {
     friend bool operator==(const Other&, const Other&) = default;
   };
   using Array = std::vector<PropertyList>;
-  using Dictionary = std::map<std::string, PropertyList, std::less<>>;
+  /// Keys and values in the list's order. Where a key comes twice, the later value counts.
+  using Dictionary = std::vector<std::pair<std::string, PropertyList>>;
 
   PropertyList() = default;
   PropertyList(std::string text) : value_(std::move(text)) {}
@@ -38,6 +39,8 @@ class PropertyList {
 };
 
 /// The value at a key, or null where the key is missing. Keys are matched whole, case counts.
+///
+///     valueAt({{"a", "1"}, {"a", "2"}}, "a")   -> "2"
 const PropertyList* valueAt(const PropertyList::Dictionary& dictionary, std::string_view key);
 
 /// What reading a property list gave: the value, or what was wrong with the bytes.
@@ -46,8 +49,15 @@ struct PropertyListReading {
   std::string error;  ///< empty where there is a value
 };
 
-/// Reads a property list of any form that the platform knows (XML, binary). Bytes that are none,
-/// are cut off, refer to themselves, or would grow out of all proportion give an error. Any thread.
+/// Reads a property list of any form that the platform knows: XML and binary on both platforms, on
+/// macOS also the old text form. Bytes that are none, are cut off, refer to themselves, or would
+/// grow out of all proportion give an error. Any thread.
+///
+/// On Linux a list of more than 16 MB, of more values than a listing of 10,000 attached images has,
+/// or nested more than 512 deep gives an error, too, as does anything that follows a list in XML.
+///
+///     readPropertyList("<array><string>a</string></array>")   -> an array of the text "a"
+///     readPropertyList("")                                    -> an error
 PropertyListReading readPropertyList(std::string_view bytes);
 
 }  // namespace launcher
