@@ -6,7 +6,8 @@ if(APPLE)
   if(APPKIT_FRAMEWORK)
     add_library(launcher_toolkit INTERFACE)
     target_link_libraries(launcher_toolkit INTERFACE
-      "-framework AppKit" "-framework CoreGraphics" "-framework QuartzCore")
+      "-framework AppKit" "-framework CoreGraphics" "-framework QuartzCore"
+      "-framework Foundation" "-framework CoreFoundation" objc)
   endif()
 else()
   include(GNUstep)

@@ -35,12 +35,12 @@ NSString* textOf(const std::string& bytes) {
   self = [super init];
   if (self == nil) return nil;
 
-  _window = [[NSWindow alloc]
-      initWithContentRect:NSMakeRect(0, 0, width, height)
-                styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskClosable |
-                          NSWindowStyleMaskMiniaturizable
-                  backing:NSBackingStoreBuffered
-                    defer:NO];
+  _window =
+      [[NSWindow alloc] initWithContentRect:NSMakeRect(0, 0, width, height)
+                                  styleMask:NSWindowStyleMaskTitled | NSWindowStyleMaskClosable |
+                                            NSWindowStyleMaskMiniaturizable
+                                    backing:NSBackingStoreBuffered
+                                      defer:NO];
   [_window setTitle:@"Sample Viewer"];
   [_window setReleasedWhenClosed:NO];
   [self addTexts:arguments];
