@@ -1,0 +1,87 @@
+"""The bundle: what it says of itself and what lies where."""
+
+import os
+import plistlib
+import unittest
+
+from localised import tables
+from product import BUNDLE, CONTENTS, PROGRAM, RESOURCES, ROOT, VIEWER, build
+
+LANGUAGES = ["de", "en", "es", "fr", "it", "ja", "pt-BR", "zh-Hans"]
+
+INFORMATION = {
+    "CFBundleDevelopmentRegion": "en",
+    "CFBundleDisplayName": "VorxLauncher",
+    "CFBundleExecutable": "VorxLauncher",
+    "CFBundleIconFile": "VorxLauncher",
+    "CFBundleIdentifier": "example.vorx.launcher",
+    "CFBundleInfoDictionaryVersion": "6.0",
+    "CFBundleLocalizations": LANGUAGES,
+    "CFBundleName": "Vorx Launcher",
+    "CFBundlePackageType": "APPL",
+    "CFBundleShortVersionString": "1.0.0",
+    "CFBundleVersion": "1.0.0",
+    "LSApplicationCategoryType": "public.app-category.utilities",
+    "LSHasLocalizedDisplayName": True,
+    "LSMinimumSystemVersion": "11.0",
+    "NSHighResolutionCapable": True,
+    "NSMainNibFile": "MainMenu",
+    "NSPrincipalClass": "NSApplication",
+    "NSRequiresAquaSystemAppearance": True,
+    "NSSupportsAutomaticTermination": False,
+    "NSSupportsSuddenTermination": False,
+}
+
+
+def setUpModule():
+    build()
+
+
+def table(path):
+    return {entry.key: entry.text for entry in tables.parse(tables.decode(path.read_bytes()))}
+
+
+def files():
+    return sorted(str(path.relative_to(CONTENTS)) for path in CONTENTS.rglob("*")
+                  if not path.is_dir())
+
+
+class Bundle(unittest.TestCase):
+    def test_information(self):
+        self.assertEqual(plistlib.loads((CONTENTS / "Info.plist").read_bytes()), INFORMATION)
+
+    def test_layout(self):
+        """Nothing but this; the layout resources, which only a Mac can compile, are missing, and a
+        note says so."""
+        localised = [f"Resources/{language}.lproj/{name}.strings"
+                     for language in LANGUAGES for name in ("InfoPlist", "Localizable")]
+        self.assertEqual(files(), sorted([
+            "Info.plist", "MacOS/VorxLauncher", "Resources/NOT-FOR-RELEASE.txt",
+            "Resources/VorxLauncher.icns", "Resources/bin/vexlink", *localised]))
+
+    def test_programs_can_be_run_and_nothing_else(self):
+        executable = [path for path in BUNDLE.rglob("*")
+                      if path.is_file() and os.access(path, os.X_OK)]
+        self.assertEqual(sorted(executable), sorted([PROGRAM, VIEWER]))
+
+    def test_texts(self):
+        for language in LANGUAGES:
+            with self.subTest(language=language):
+                name = f"{language}.lproj/Localizable.strings"
+                self.assertEqual((RESOURCES / name).read_bytes(),
+                                 (ROOT / "resources" / name).read_bytes())
+
+    def test_names(self):
+        for language in LANGUAGES:
+            with self.subTest(language=language):
+                folder = RESOURCES / f"{language}.lproj"
+                name = table(folder / "Localizable.strings")["Vorx Launcher"]
+                self.assertEqual(table(folder / "InfoPlist.strings"),
+                                 {"CFBundleName": name, "CFBundleDisplayName": name})
+
+    def test_icon(self):
+        self.assertEqual((RESOURCES / "VorxLauncher.icns").read_bytes()[:4], b"icns")
+
+
+if __name__ == "__main__":
+    unittest.main()

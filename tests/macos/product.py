@@ -1,0 +1,32 @@
+"""What the macos-cross preset builds, and where it lies."""
+
+import functools
+import pathlib
+import subprocess
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+BUILD = ROOT / "build" / "macos-cross"
+BUNDLE = BUILD / "VorxLauncher.app"
+CONTENTS = BUNDLE / "Contents"
+RESOURCES = CONTENTS / "Resources"
+PROGRAM = CONTENTS / "MacOS" / "VorxLauncher"
+VIEWER = RESOURCES / "bin" / "vexlink"
+TEST_PROGRAMS = [BUILD / "tests" / f"{name}-tests" for name in ("unit", "contract", "window")]
+
+ARCHITECTURES = ["arm64", "x86_64"]
+
+
+def output_of(*command):
+    """What a command prints on both streams. An AssertionError shows it where the command fails."""
+    done = subprocess.run([str(part) for part in command], cwd=ROOT, text=True,
+                          stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+                          stderr=subprocess.STDOUT)
+    assert done.returncode == 0, f"{command[0]} ended with {done.returncode}:\n{done.stdout}"
+    return done.stdout
+
+
+@functools.cache
+def build():
+    """Brings everything up to date; in one run of the tests, once."""
+    output_of("cmake", "--preset", "macos-cross")
+    output_of("cmake", "--build", "--preset", "macos-cross")
