@@ -18,18 +18,16 @@ namespace launcher {
 /// A resolver that answers as it is told, for every host alike, and notes whom it was asked for.
 class FakeHostResolver : public HostResolver {
  public:
-  explicit FakeHostResolver(std::optional<std::vector<SocketAddress>> answer = std::nullopt)
-      : answer_(std::move(answer)) {}
+  explicit FakeHostResolver(std::optional<std::vector<SocketAddress>> given = std::nullopt)
+      : answer(std::move(given)) {}
 
   std::optional<std::vector<SocketAddress>> addresses(const std::string& host) const override {
     asked.push_back(host);
-    return answer_;
+    return answer;
   }
 
+  std::optional<std::vector<SocketAddress>> answer;
   mutable std::vector<std::string> asked;
-
- private:
-  std::optional<std::vector<SocketAddress>> answer_;
 };
 
 template <typename Address>

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstddef>
 #include <deque>
 #include <functional>
+#include <utility>
 
 #include "controller/WorkQueue.h"
 
@@ -10,7 +12,12 @@ namespace launcher {
 /// A queue whose items run when the test says so.
 class ManualQueue : public WorkQueue {
  public:
-  void add(std::function<void()> item) override { items_.push_back(std::move(item)); }
+  std::function<void()> onAdd = [] {};
+
+  void add(std::function<void()> item) override {
+    onAdd();
+    items_.push_back(std::move(item));
+  }
 
   std::size_t size() const { return items_.size(); }
 
