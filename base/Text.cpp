@@ -1,7 +1,5 @@
 #include "base/Text.h"
 
-#include <algorithm>
-
 #include "base/UnicodeRules.h"
 
 namespace launcher {
@@ -27,11 +25,6 @@ std::size_t characterCount(std::string_view text) {
 
 std::string canonicallyDecomposed(std::string_view text) {
   return isAscii(text) ? std::string(text) : utf8(decomposition(utf16(text)));
-}
-
-bool isAscii(std::string_view text) {
-  return std::all_of(text.begin(), text.end(),
-                     [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
 
 bool canonicallyEqual(std::string_view a, std::string_view b) {

@@ -130,6 +130,11 @@ std::string repairedUtf8(std::string_view bytes) {
   return utf8(utf16(bytes));
 }
 
+bool isAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(),
+                     [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
 bool isUtf8(std::string_view bytes) {
   while (!bytes.empty()) {
     const Step step = stepUtf8(bytes);

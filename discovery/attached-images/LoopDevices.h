@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace launcher {
+
+/// A device that can be mounted.
+struct BlockDevice {
+  std::string name;    ///< such as "loop0" or "loop0p1"
+  std::string number;  ///< such as "7:0"
+
+  friend bool operator==(const BlockDevice&, const BlockDevice&) = default;
+};
+
+/// A loop device with an image attached to it.
+struct LoopDevice {
+  std::string imagePath;  ///< as the kernel has it; " (deleted)" follows a removed image's
+  std::vector<BlockDevice> devices;  ///< the whole device, then its partitions
+
+  friend bool operator==(const LoopDevice&, const LoopDevice&) = default;
+};
+
+/// The loop devices that have an image, in the order of their numbers. `folder` is the kernel's
+/// list of block devices, as a rule "/sys/class/block"; devices that vanish meanwhile or cannot be
+/// read are left out.
+///
+/// Throws `std::system_error` where the folder cannot be read.
+std::vector<LoopDevice> readLoopDevices(const std::string& folder);
+
+}  // namespace launcher

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <mutex>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "discovery/ListingTool.h"
+
+namespace launcher {
+
+/// A tool that prints what the test says, and ends at once. Its exit handler runs on a thread of
+/// its own, as a real one's does.
+class FakeListingTool : public ListingTool {
+ public:
+  bool startable = true;
+  std::vector<std::string> output;
+
+  FakeListingTool() = default;
+  FakeListingTool(const FakeListingTool&) = delete;
+  FakeListingTool& operator=(const FakeListingTool&) = delete;
+  ~FakeListingTool() override {
+    if (exit_.joinable()) exit_.join();
+  }
+
+  void setOutputHandler(OutputHandler handler) override {
+    note(handler ? "output handler set" : "output handler removed");
+    outputHandler_ = std::move(handler);
+  }
+
+  void setExitHandler(ExitHandler handler) override {
+    note("exit handler set");
+    exitHandler_ = std::move(handler);
+  }
+
+  bool launch() override {
+    note("launched");
+    if (!startable) return false;
+    for (const std::string& piece : output) print(piece);
+    exit_ = std::thread([handler = std::move(exitHandler_)] { handler(); });
+    return true;
+  }
+
+  void waitUntilExit() override { note("waited for"); }
+
+  /// Prints more, which is lost where nobody listens.
+  void print(std::string_view bytes) {
+    if (outputHandler_) outputHandler_(bytes);
+  }
+
+  void note(const char* event) {
+    const std::lock_guard lock(mutex_);
+    events_.emplace_back(event);
+  }
+
+  /// What happened so far, in order.
+  std::vector<std::string> events() {
+    const std::lock_guard lock(mutex_);
+    return events_;
+  }
+
+ private:
+  std::mutex mutex_;
+  std::vector<std::string> events_;
+  OutputHandler outputHandler_;
+  ExitHandler exitHandler_;
+  std::thread exit_;
+};
+
+}  // namespace launcher
