@@ -8,6 +8,11 @@ void installAppKitLikeness() {
   @autoreleasepool {
     registerLanguages();
     registerDefaults();
+    installContentSize();
+    installCopyAndPaste();
+    installFieldEditor();
+    installNoServers();
+    installPlaceholders();
     installViewLifecycle();
     installLayers();
     installWindowLevel();

@@ -9,7 +9,8 @@ namespace launcher {
 void addMissingMethods(Class target, Class donor);
 
 /// Lets `replacement`, a method of `target`, be called for `original` and the other way round; a
-/// base class from which `target` inherits `original` is left as it is.
+/// base class from which `target` inherits `original` is left as it is. Nothing happens where there
+/// is no `original`.
 void exchangeMethods(Class target, SEL original, SEL replacement);
 
 }  // namespace launcher

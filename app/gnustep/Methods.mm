@@ -21,6 +21,7 @@ void addMissingMethods(Class target, Class donor) {
 void exchangeMethods(Class target, SEL original, SEL replacement) {
   const Method before = class_getInstanceMethod(target, original);
   const Method after = class_getInstanceMethod(target, replacement);
+  if (before == nullptr) return;
   const bool inherited = class_addMethod(target, original, method_getImplementation(after),
                                          method_getTypeEncoding(after));
   if (inherited) {
