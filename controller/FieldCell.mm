@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr CGFloat besideText = 4.0;
+constexpr CGFloat besideText = 6.0;
 
 CGFloat lineHeight(NSFont* font) {
   return std::ceil([font ascender] - [font descender] + [font leading]);

@@ -2,19 +2,27 @@
 
 namespace launcher {
 
-/// Make GNUstep's AppKit behave like the platform's. Once, before the application's main function.
-void registerLanguages();
-void registerDefaults();
-void installContentSize();
+/// Makes GNUstep's AppKit behave like the platform's, and look like a program of today. Once,
+/// before the application's main function.
+void installAppKitLikeness();
+
+// Its parts, each in the file of its name.
+void installAlerts();
+void installButtonTitles();
 void installCopyAndPaste();
 void installFieldEditor();
+void installFocusRing();
+void installHiding();
+void installLayers();
+void installMenuKeys();
 void installNoServers();
 void installPlaceholders();
+void installTheme();
 void installViewLifecycle();
-void installLayers();
 void installWindowLevel();
-
-/// All of the above.
-void installAppKitLikeness();
+void installWindowLimits();
+void registerColours();
+void registerDefaults();
+void registerLanguages();
 
 }  // namespace launcher

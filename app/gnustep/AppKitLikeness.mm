@@ -8,14 +8,21 @@ void installAppKitLikeness() {
   @autoreleasepool {
     registerLanguages();
     registerDefaults();
-    installContentSize();
-    installCopyAndPaste();
-    installFieldEditor();
+    registerColours();
     installNoServers();
-    installPlaceholders();
     installViewLifecycle();
-    installLayers();
+    installWindowLimits();
     installWindowLevel();
+    installLayers();
+    installFocusRing();
+    installPlaceholders();
+    installFieldEditor();
+    installCopyAndPaste();
+    installAlerts();
+    installHiding();
+    installButtonTitles();
+    installMenuKeys();
+    installTheme();
   }
 }
 

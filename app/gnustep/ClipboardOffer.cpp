@@ -1,9 +1,11 @@
 #include <cstring>
+#include <map>
 #include <mutex>
 #include <thread>
 #include <vector>
 
 #include "app/gnustep/Clipboard.h"
+#include "app/gnustep/SelectionAtom.h"
 #include "app/gnustep/XConnection.h"
 
 namespace launcher {
@@ -16,12 +18,13 @@ class Offer {
     if (connection_.works()) std::thread([this] { answerRequests(); }).detach();
   }
 
-  void put(const std::string& text) {
+  void put(Selection selection, const std::string& text) {
+    const xcb_atom_t atom = selectionAtom(connection_, selection);
     {
       const std::lock_guard lock(mutex_);
-      text_ = text;
+      texts_[atom] = text;
     }
-    xcb_set_selection_owner(connection_.get(), connection_.window(), clipboard_, XCB_CURRENT_TIME);
+    xcb_set_selection_owner(connection_.get(), connection_.window(), atom, XCB_CURRENT_TIME);
     xcb_flush(connection_.get());
   }
 
@@ -63,10 +66,11 @@ class Offer {
     if (request.target != utf8_ && request.target != plainText_) return false;
 
     const std::lock_guard lock(mutex_);
-    if (text_.size() > longest()) return false;
+    const std::string& text = texts_[request.selection];
+    if (text.size() > longest()) return false;
     xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, request.requestor,
                         request.property, request.target, 8,
-                        static_cast<std::uint32_t>(text_.size()), text_.data());
+                        static_cast<std::uint32_t>(text.size()), text.data());
     return true;
   }
 
@@ -76,19 +80,18 @@ class Offer {
   }
 
   XConnection connection_;
-  const xcb_atom_t clipboard_ = connection_.atom("CLIPBOARD");
   const xcb_atom_t targets_ = connection_.atom("TARGETS");
   const xcb_atom_t utf8_ = connection_.atom("UTF8_STRING");
   const xcb_atom_t plainText_ = connection_.atom("text/plain;charset=utf-8");
   std::mutex mutex_;
-  std::string text_;
+  std::map<xcb_atom_t, std::string> texts_;
 };
 
 }  // namespace
 
-void offerToClipboard(const std::string& text) {
+void offerText(Selection selection, const std::string& text) {
   static auto* const offer = new Offer;  // never destroyed: its thread runs until the program ends
-  offer->put(text);
+  offer->put(selection, text);
 }
 
 }  // namespace launcher

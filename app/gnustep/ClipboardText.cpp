@@ -1,6 +1,7 @@
 #include <cstring>
 
 #include "app/gnustep/Clipboard.h"
+#include "app/gnustep/SelectionAtom.h"
 #include "app/gnustep/XConnection.h"
 
 namespace launcher {
@@ -11,10 +12,11 @@ using Clock = std::chrono::steady_clock;
 /// Asks for the clipboard's text and gathers the answer, which may come in pieces.
 class Question {
  public:
-  std::optional<std::string> ask() {
+  std::optional<std::string> ask(Selection selection) {
     if (!connection_.works()) return std::nullopt;
-    xcb_convert_selection(connection_.get(), connection_.window(), connection_.atom("CLIPBOARD"),
-                          connection_.atom("UTF8_STRING"), answer_, XCB_CURRENT_TIME);
+    xcb_convert_selection(connection_.get(), connection_.window(),
+                          selectionAtom(connection_, selection), connection_.atom("UTF8_STRING"),
+                          answer_, XCB_CURRENT_TIME);
     xcb_flush(connection_.get());
 
     if (!answered()) return std::nullopt;
@@ -78,6 +80,6 @@ class Question {
 
 }  // namespace
 
-std::optional<std::string> textOnClipboard() { return Question().ask(); }
+std::optional<std::string> offeredText(Selection selection) { return Question().ask(selection); }
 
 }  // namespace launcher

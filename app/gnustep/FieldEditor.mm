@@ -1,4 +1,5 @@
-// The editor of a field that draws no background shows what lies behind it.
+// The editor of a field that draws no background shows what lies behind it, also where its
+// insertion point was.
 
 #import <AppKit/AppKit.h>
 
@@ -21,11 +22,27 @@
 
 @end
 
+@interface NSTextView (FieldEditorExchange)
+@end
+
+@implementation NSTextView (FieldEditorExchange)
+
+- (void)launcher_drawInsertionPointInRect:(NSRect)rect color:(NSColor*)color turnedOn:(BOOL)on {
+  if (on || [self drawsBackground]) {
+    return [self launcher_drawInsertionPointInRect:rect color:color turnedOn:on];
+  }
+  [self setNeedsDisplayInRect:NSInsetRect(rect, -1, -1)];
+}
+
+@end
+
 namespace launcher {
 
 void installFieldEditor() {
   exchangeMethods([NSClipView class], @selector(setDocumentView:),
                   @selector(launcher_setDocumentView:));
+  exchangeMethods([NSTextView class], @selector(drawInsertionPointInRect:color:turnedOn:),
+                  @selector(launcher_drawInsertionPointInRect:color:turnedOn:));
 }
 
 }  // namespace launcher

@@ -1,4 +1,4 @@
-// The placeholder that a layout file gives a field, which GNUstep draws but does not read.
+// The placeholder of an empty field, which GNUstep neither reads from a layout file nor draws.
 
 #import <AppKit/AppKit.h>
 
@@ -8,6 +8,11 @@
 namespace {
 
 NSString* const placeholderKey = @"placeholderString";
+
+NSString* textOf(NSTextFieldCell* cell, NSView* view) {
+  NSText* editor = [static_cast<NSControl*>(view) currentEditor];
+  return editor != nil ? [editor string] : [cell stringValue];
+}
 
 }  // namespace
 
@@ -23,6 +28,17 @@ NSString* const placeholderKey = @"placeholderString";
   return self;
 }
 
+- (void)launcher_drawInteriorWithFrame:(NSRect)frame inView:(NSView*)view {
+  [self launcher_drawInteriorWithFrame:frame inView:view];
+  NSString* placeholder = [self placeholderString];
+  if (placeholder == nil || [textOf(self, view) length] > 0) return;
+  [placeholder drawInRect:[self titleRectForBounds:frame]
+           withAttributes:@{
+             NSFontAttributeName : [self font],
+             NSForegroundColorAttributeName : [NSColor disabledControlTextColor],
+           }];
+}
+
 @end
 
 namespace launcher {
@@ -30,6 +46,8 @@ namespace launcher {
 void installPlaceholders() {
   exchangeMethods([NSTextFieldCell class], @selector(initWithCoder:),
                   @selector(launcher_initWithCoder:));
+  exchangeMethods([NSTextFieldCell class], @selector(drawInteriorWithFrame:inView:),
+                  @selector(launcher_drawInteriorWithFrame:inView:));
 }
 
 }  // namespace launcher

@@ -1,18 +1,28 @@
-// Floating windows above ordinary ones, also for window managers that do not know the toolkit's
-// levels.
-
-#import "app/gnustep/AppKitLikeness.h"
+// Floating windows above ordinary ones. Window managers do not heed the toolkit's levels, and the
+// toolkit takes a floating window for a tool of another one and keeps it out of the window list.
 
 #import <AppKit/AppKit.h>
 #import <CoreGraphics/CoreGraphics.h>
-#import <GNUstepGUI/GSDisplayServer.h>
 
-#import "app/gnustep/KeepAbove.h"
+#import "app/gnustep/AppKitLikeness.h"
 #import "app/gnustep/Methods.h"
+#import "app/gnustep/XWindows.h"
 
 CGWindowLevel CGWindowLevelForKey(CGWindowLevelKey key) {
   return key == kCGFloatingWindowLevelKey ? NSFloatingWindowLevel : NSNormalWindowLevel;
 }
+
+@interface GSDisplayServer (WindowLevelExchange)
+@end
+
+@implementation GSDisplayServer (WindowLevelExchange)
+
+- (void)launcher_setwindowlevel:(int)level:(int)window {
+  const bool floats = level == NSFloatingWindowLevel;
+  [self launcher_setwindowlevel:floats ? NSNormalWindowLevel : level:window];
+}
+
+@end
 
 @interface NSWindow (WindowLevelExchange)
 @end
@@ -21,10 +31,10 @@ CGWindowLevel CGWindowLevelForKey(CGWindowLevelKey key) {
 
 - (void)launcher_leveledOrderWindow:(NSWindowOrderingMode)place relativeTo:(NSInteger)other {
   [self launcher_leveledOrderWindow:place relativeTo:other];
-  if (place == NSWindowOut || [self level] != NSFloatingWindowLevel) return;
-  GSDisplayServer* server = GSServerForWindow(self);
-  void* window = [server windowDevice:static_cast<int>([self windowNumber])];
-  launcher::keepAbove([server serverDevice], reinterpret_cast<unsigned long>(window));
+  const bool floats = [self level] == NSFloatingWindowLevel;
+  if (floats && place != NSWindowOut) {
+    launcher::keepAbove(launcher::xDisplay(self), launcher::xWindow(self));
+  }
 }
 
 @end
@@ -32,6 +42,9 @@ CGWindowLevel CGWindowLevelForKey(CGWindowLevelKey key) {
 namespace launcher {
 
 void installWindowLevel() {
+  [NSApplication sharedApplication];  // connects to the display
+  exchangeMethods([GSCurrentServer() class], @selector(setwindowlevel::),
+                  @selector(launcher_setwindowlevel::));
   exchangeMethods([NSWindow class], @selector(orderWindow:relativeTo:),
                   @selector(launcher_leveledOrderWindow:relativeTo:));
 }

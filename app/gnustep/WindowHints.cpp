@@ -1,10 +1,11 @@
-#include "app/gnustep/KeepAbove.h"
+#include "app/gnustep/WindowHints.h"
 
 #include <X11/Xlib.h>
+#include <X11/Xutil.h>
 
 namespace launcher {
 
-void keepAbove(void* toolkitDisplay, unsigned long window) {
+void keepAbove(void* toolkitDisplay, XWindow window) {
   constexpr long add = 1;
   constexpr long fromApplication = 1;
 
@@ -23,6 +24,11 @@ void keepAbove(void* toolkitDisplay, unsigned long window) {
   XSendEvent(display, DefaultRootWindow(display), False,
              SubstructureRedirectMask | SubstructureNotifyMask, &event);
   XFlush(display);
+}
+
+void setTransient(void* toolkitDisplay, XWindow dialogue, XWindow owner) {
+  Display* display = static_cast<Display*>(toolkitDisplay);
+  XSetTransientForHint(display, dialogue, owner);
 }
 
 }  // namespace launcher

@@ -1,0 +1,16 @@
+#pragma once
+
+/// What window managers are told of a window, in the manner that they agree on. `display` is the
+/// toolkit's X display, windows are X windows.
+namespace launcher {
+
+using XWindow = unsigned long;
+
+/// Asks for a window to be kept above ordinary ones. After it has been asked to be mapped.
+void keepAbove(void* display, XWindow window);
+
+/// Ties a dialogue to the window that it belongs to, above which it then stays. Before it is
+/// mapped.
+void setTransient(void* display, XWindow dialogue, XWindow owner);
+
+}  // namespace launcher
