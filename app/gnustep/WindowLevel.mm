@@ -17,9 +17,9 @@ CGWindowLevel CGWindowLevelForKey(CGWindowLevelKey key) {
 
 @implementation GSDisplayServer (WindowLevelExchange)
 
-- (void)launcher_setwindowlevel:(int)level:(int)window {
+- (void)launcher_setLevel:(int)level ofWindow:(int)window {
   const bool floats = level == NSFloatingWindowLevel;
-  [self launcher_setwindowlevel:floats ? NSNormalWindowLevel : level:window];
+  [self launcher_setLevel:floats ? NSNormalWindowLevel : level ofWindow:window];
 }
 
 @end
@@ -44,7 +44,7 @@ namespace launcher {
 void installWindowLevel() {
   [NSApplication sharedApplication];  // connects to the display
   exchangeMethods([GSCurrentServer() class], @selector(setwindowlevel::),
-                  @selector(launcher_setwindowlevel::));
+                  @selector(launcher_setLevel:ofWindow:));
   exchangeMethods([NSWindow class], @selector(orderWindow:relativeTo:),
                   @selector(launcher_leveledOrderWindow:relativeTo:));
 }
