@@ -3,25 +3,29 @@
 import xml.etree.ElementTree as ElementTree
 
 from execution import execute, execute_apart, scratch_folder
-from project import BUILD, build
+from project import PRESET, build, build_folder
 from report import FAILED, PASSED, SKIPPED, Result
 
 
 class GoogleTestSuite:
-    def __init__(self, program, *, apart=False, display=False):
+    def __init__(self, program, *, preset=PRESET, apart=False, display=False, environment=None):
         self._program = program
+        self._preset = preset
         self._apart = apart
         self._display = display
+        self._environment = environment
 
     def run(self):
-        build(self._program)
+        build(self._program, preset=self._preset)
+        program = build_folder(self._preset) / "tests" / self._program
         with scratch_folder() as folder:
             record = folder / "results.xml"
-            command = [str(BUILD / "tests" / self._program), f"--gtest_output=xml:{record}"]
+            command = [str(program), f"--gtest_output=xml:{record}"]
             if self._apart:
-                status, output = execute_apart(command, folder=folder, display=self._display)
+                status, output = execute_apart(command, folder=folder, display=self._display,
+                                               environment=self._environment)
             else:
-                status, output = execute(command)
+                status, output = execute(command, environment=self._environment)
             return _results(record, self._program, status, output)
 
 

@@ -29,14 +29,20 @@ def run_quietly(*command):
     return done.stdout
 
 
-def configure():
-    if not (BUILD / "build.ninja").exists():
-        run_quietly("cmake", "--preset", PRESET)
+def build_folder(preset=PRESET):
+    """Where a preset's build lies."""
+    return BUILD if preset == PRESET else BUILD / preset
 
 
-def build(*targets):
+def configure(preset=PRESET):
+    made = build_folder(preset) / "build.ninja"
+    if not made.exists() or made.stat().st_mtime < (ROOT / "CMakePresets.json").stat().st_mtime:
+        run_quietly("cmake", "--preset", preset)
+
+
+def build(*targets, preset=PRESET):
     """Brings targets up to date; nothing where none is named."""
     if not targets:
         return
-    configure()
-    run_quietly("cmake", "--build", "--preset", PRESET, "--target", *targets)
+    configure(preset)
+    run_quietly("cmake", "--build", "--preset", preset, "--target", *targets)

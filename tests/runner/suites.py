@@ -1,6 +1,7 @@
 """The suites by name, in the order in which they run."""
 
 import lint
+import sanitizers
 from googletest import GoogleTestSuite
 from pythontests import PythonSuite
 
@@ -10,6 +11,7 @@ SUITES = {
     "icon": PythonSuite("tests/icon"),
     "unit": GoogleTestSuite("unit-tests"),
     "contract": GoogleTestSuite("contract-tests", apart=True),
+    "sanitizers": sanitizers,
     "window": GoogleTestSuite("window-tests", apart=True, display=True),
     "e2e": PythonSuite("tests/e2e", targets=["sample-viewer"], apart=True, display=True),
 }
