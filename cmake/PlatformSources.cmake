@@ -15,7 +15,9 @@ else()
   set(BASE_PLATFORM_SOURCES
     Sleeper_linux.cpp Spawn_linux.cpp UnicodeRules_linux.cpp Url_linux.cpp)
   set(PROCESS_PLATFORM_SOURCES ProcessTable_linux.cpp ProgramStarter_linux.cpp)
-  set(NET_PLATFORM_SOURCES HostResolver_linux.cpp)
+  set(NET_PLATFORM_SOURCES
+    HostResolver_linux.cpp LinkDetector_linux.cpp links/Authority.cpp links/HostName.cpp
+    links/Link.cpp links/Tail.cpp links/Traits.cpp)
   set(DISCOVERY_PLATFORM_SOURCES
     BinaryObjects_linux.cpp DoneSignal_linux.cpp ListingTool_linux.cpp OriginAttribute_linux.cpp
     PropertyList_linux.cpp PropertyListBinary_linux.cpp PropertyListXml_linux.cpp

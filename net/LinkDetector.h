@@ -21,8 +21,8 @@ class LinkDetector {
  public:
   virtual ~LinkDetector() = default;
 
-  /// The first link in the first `length` UTF-16 units of `text`, or absent, also where the
-  /// platform cannot make a detector. `length` is at most the text's own.
+  /// The first link of `text`, or absent where it does not lie within the first `length` UTF-16
+  /// units, and where the platform cannot make a detector. `length` is at most the text's own.
   ///
   ///     "see https://h.example/a."   -> https://h.example/a   at 4, 19 units
   ///     "h.example.com"              -> http://h.example.com  at 0, 13 units

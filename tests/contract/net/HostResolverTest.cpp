@@ -1,13 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <set>
 #include <string>
-#include <thread>
-#include <vector>
 
 #include "net/HostResolver.h"
 #include "net/IPUtils.h"
+#include "tests/contract/net/OnThreads.h"
 
 // Names that are resolved without a network.
 namespace launcher {
@@ -62,17 +60,8 @@ TEST(HostResolverTest, UnusableNamesHaveNoAddress) {
 
 TEST(HostResolverTest, AnswersSeveralThreadsAtOnce) {
   const auto resolver = makeHostResolver();
-  std::atomic<int> right = 0;
-  std::vector<std::thread> threads;
-  for (int i = 0; i < 8; ++i) {
-    threads.emplace_back([&] {
-      for (int round = 0; round < 50; ++round) {
-        if (IPUtils::getIP("127.0.0.1", *resolver) == "127.0.0.1") ++right;
-      }
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
-  EXPECT_EQ(right, 8 * 50);
+  const auto check = [&] { return IPUtils::getIP("127.0.0.1", *resolver) == "127.0.0.1"; };
+  EXPECT_EQ(successesOnThreads(8, 50, check), 8 * 50);
 }
 
 }  // namespace

@@ -8,26 +8,26 @@
 namespace launcher {
 namespace {
 
-TEST(UrlTest, KeepsARootPath) {
+TEST(UrlLinuxTest, KeepsARootPath) {
   for (const std::string text : {"https://h/", "https://h//", "file:///", "/", "https://h/?q"}) {
     EXPECT_EQ(Url::parse(text)->deletingLastPathComponent().absoluteString(), text);
   }
 }
 
-TEST(UrlTest, ReplacesADotAtTheEnd) {
+TEST(UrlLinuxTest, ReplacesADotAtTheEnd) {
   EXPECT_EQ(Url::parse(".")->deletingLastPathComponent().absoluteString(), "../");
   EXPECT_EQ(Url::parse("..")->deletingLastPathComponent().absoluteString(), "../../");
   EXPECT_EQ(Url::parse("https://h/.")->deletingLastPathComponent().absoluteString(),
             "https://h/../");
 }
 
-TEST(UrlTest, CarriesFilePathsThatAreNoText) {
+TEST(UrlLinuxTest, CarriesFilePathsThatAreNoText) {
   const std::string path("/a\xff\xc3\0b", 6);
   EXPECT_EQ(Url::ofFile(path).absoluteString(), "file:///a%FF%C3%00b");
   EXPECT_EQ(Url::ofFile(path).filePath(), path);
 }
 
-TEST(UrlTest, EndsAnAddressInBracketsWithTheTextAtTheLatest) {
+TEST(UrlLinuxTest, EndsAnAddressInBracketsWithTheTextAtTheLatest) {
   EXPECT_EQ(Url::parse("https://[::1")->host(), "::1");
 }
 
