@@ -2,12 +2,12 @@
 
 #include <charconv>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <optional>
 #include <string_view>
 #include <system_error>
+
+#include "discovery/attached-images/KernelFile.h"
 
 namespace launcher {
 namespace {
@@ -37,25 +37,22 @@ void addDevice(std::map<unsigned, Partitions>& loops, const std::string& name) {
   if (partition && rest.empty()) loops[*loop][*partition] = name;
 }
 
-/// What a kernel file says, without the line feed that the kernel adds; absent where there is none.
-std::optional<std::string> kernelText(const Path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream) return std::nullopt;
-  std::string text{std::istreambuf_iterator(stream), {}};
-  if (text.ends_with('\n')) text.pop_back();
+/// What a file says, without the line feed that the kernel adds.
+std::optional<std::string> line(const Path& file) {
+  std::optional<std::string> text = readKernelFile(file);
+  if (text && text->ends_with('\n')) text->pop_back();
   return text;
 }
 
 std::optional<LoopDevice> readLoopDevice(const Path& folder, const Partitions& partitions) {
   const auto whole = partitions.find(0);
   if (whole == partitions.end()) return std::nullopt;
-  const auto imagePath = kernelText(folder / whole->second / "loop/backing_file");
+  const auto imagePath = line(folder / whole->second / "loop/backing_file");
   if (!imagePath || imagePath->empty()) return std::nullopt;
 
   LoopDevice loop{*imagePath, {}};
   for (const auto& [index, name] : partitions) {
-    if (const auto number = kernelText(folder / name / "dev"))
-      loop.devices.push_back({name, *number});
+    if (const auto number = line(folder / name / "dev")) loop.devices.push_back({name, *number});
   }
   return loop;
 }

@@ -3,14 +3,15 @@
 #include <csignal>
 #include <cstdio>
 #include <exception>
-#include <fstream>
-#include <iterator>
+#include <optional>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <system_error>
 #include <vector>
 
 #include "discovery/attached-images/AttachedImageList.h"
+#include "discovery/attached-images/KernelFile.h"
 #include "discovery/attached-images/ListingText.h"
 #include "discovery/attached-images/LoopDevices.h"
 #include "discovery/attached-images/MountTable.h"
@@ -31,16 +32,11 @@ constexpr std::string_view kHelp =
     "       attached-images info -plist    as a property list\n"
     "       attached-images --help         this help\n";
 
-std::string readFile(const std::string& path) {
-  std::ifstream stream(path, std::ios::binary);
-  std::string text{std::istreambuf_iterator(stream), {}};
-  if (!stream) throw std::system_error(errno, std::generic_category(), path);
-  return text;
-}
-
 std::vector<AttachedImage> attachedImages() {
+  const std::optional<std::string> mounts = launcher::readKernelFile("/proc/self/mountinfo");
+  if (!mounts) throw std::runtime_error("cannot read the mount table");
   return launcher::attachedImages(launcher::readLoopDevices("/sys/class/block"),
-                                  launcher::parseMountTable(readFile("/proc/self/mountinfo")));
+                                  launcher::parseMountTable(*mounts));
 }
 
 void print(std::string_view text) {
