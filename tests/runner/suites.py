@@ -1,5 +1,6 @@
 """The suites by name, in the order in which they run."""
 
+import fuzz
 import lint
 import sanitizers
 from googletest import GoogleTestSuite
@@ -12,6 +13,7 @@ SUITES = {
     "unit": GoogleTestSuite("unit-tests"),
     "contract": GoogleTestSuite("contract-tests", apart=True),
     "sanitizers": sanitizers,
+    "fuzz": fuzz,
     "window": GoogleTestSuite("window-tests", apart=True, display=True),
     "e2e": PythonSuite("tests/e2e", targets=["sample-viewer"], apart=True, display=True),
 }
