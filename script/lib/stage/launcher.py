@@ -47,7 +47,8 @@ class LauncherWindow(Window):
         self.click(left + width // 2, top + height // 2)
 
     def has_location(self):
-        """Whether the location field shows a text. What it shows while empty is pale."""
+        """Whether the location field shows a text. What it shows while empty is pale; until it is
+        painted for the first time it may be black all over."""
         left, top, width, height = self.frame("vorxLocation")
         inside = self.picture().crop(left + 4, top + 4, width - 8, height - 8)
-        return inside.inked_columns() > 10
+        return 10 < inside.inked_columns() < inside.width
