@@ -13,7 +13,8 @@ FUZZ_TARGET(text) {
   if (!reading.value) return;
 
   require(readPropertyList(text).value == reading.value, "the same bytes give the same value");
-  if (text.starts_with("bplist")) return;
+  // Carriage returns are kept, as the platform keeps them; other readers make them line feeds.
+  if (text.starts_with("bplist") || text.find('\r') != std::string_view::npos) return;
   const auto expected = ExpatReference::read(text);
   require(!expected || expected == reading.value, "another reader sees the same value");
 }

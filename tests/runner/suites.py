@@ -14,6 +14,7 @@ SUITES = {
     "contract": GoogleTestSuite("contract-tests", apart=True),
     "sanitizers": sanitizers,
     "fuzz": fuzz,
+    "endurance": GoogleTestSuite("endurance-tests", apart=True),
     "window": GoogleTestSuite("window-tests", apart=True, display=True),
     "e2e": PythonSuite("tests/e2e", targets=["sample-viewer"], apart=True, display=True),
 }
