@@ -7,7 +7,8 @@ function(bundle_program name file)
   add_custom_command(OUTPUT "${inside}" DEPENDS "${file}"
     COMMAND "${CMAKE_COMMAND}" -E make_directory "${bundle_programs}"
     COMMAND "${CMAKE_COMMAND}" -E copy "${file}" "${inside}")
-  add_custom_target(bundle_${name} ALL DEPENDS "${inside}")
+  add_custom_target(bundle_${name} DEPENDS "${inside}")
+  add_dependencies(application bundle_${name})
 endfunction()
 
 if(VEXLINK)

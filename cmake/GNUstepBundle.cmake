@@ -9,12 +9,13 @@ set(icon "${CMAKE_CURRENT_BINARY_DIR}/VorxLauncher.png")
 launcher_icon("${icon}")
 
 get_target_property(localised launcher_resources RESOURCE_FOLDER)
-add_custom_target(bundle_resources ALL
+add_custom_target(bundle_resources
   DEPENDS launcher_resources "${icon}" "${CMAKE_SOURCE_DIR}/resources/Info-gnustep.plist"
   COMMAND "${CMAKE_COMMAND}" -E copy_directory "${localised}" "${bundle}/Resources"
   COMMAND "${CMAKE_COMMAND}" -E copy_if_different
           "${CMAKE_SOURCE_DIR}/resources/Info-gnustep.plist" "${icon}" "${bundle}/Resources"
   COMMENT "Putting the resources into the bundle")
+add_dependencies(application bundle_resources)
 
 set(bundle_programs "${bundle}/Resources/bin")
 include(BundlePrograms)
