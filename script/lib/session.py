@@ -76,7 +76,8 @@ def take_picture(launcher, in_image, file):
         return not in_image or window.has_location()
 
     wait_until(ready, "the location has been found")
-    window.settled_picture().save(file)
+    window.settled_picture()
+    window.save_picture(file)
     say(f"Screenshot: {file}")
 
 

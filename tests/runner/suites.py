@@ -16,5 +16,5 @@ SUITES = {
     "fuzz": fuzz,
     "endurance": GoogleTestSuite("endurance-tests", apart=True),
     "window": GoogleTestSuite("window-tests", apart=True, display=True),
-    "e2e": PythonSuite("tests/e2e", targets=["sample-viewer"], apart=True, display=True),
+    "e2e": PythonSuite("tests/e2e", targets=["application", "e2e-double"], apart=True, display=True),
 }

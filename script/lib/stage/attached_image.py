@@ -40,7 +40,9 @@ def _insist(*command):
 
 @contextlib.contextmanager
 def _by_root(file):
-    with tempfile.TemporaryDirectory(prefix="vorx-") as folder:
+    with tempfile.TemporaryDirectory(prefix="vorx-") as place:
+        folder = os.path.join(place, "Vorx Launcher")
+        os.mkdir(folder)
         try:
             _run("mount", "-o", "ro,loop", str(file), folder)
             yield folder
@@ -77,8 +79,21 @@ def _by_mac(file):
         _insist("hdiutil", "detach", folder)
 
 
+WAYS = [_by_mac] if sys.platform == "darwin" else [_by_root, _by_desktop]
+
+
+@contextlib.contextmanager
 def attached(file):
-    """Mounts an image's volume while the block runs; gives its folder."""
-    if sys.platform == "darwin":
-        return _by_mac(file)
-    return _by_root(file) if os.geteuid() == 0 else _by_desktop(file)
+    """Mounts an image's volume, in the first way that works, while the block runs; gives its
+    folder."""
+    reasons = []
+    with contextlib.ExitStack() as stack:
+        for way in WAYS:
+            try:
+                folder = stack.enter_context(way(file))
+                break
+            except NotAllowed as reason:
+                reasons.append(str(reason))
+        else:
+            raise NotAllowed("; ".join(reasons))
+        yield folder

@@ -37,7 +37,7 @@ class LauncherWindow(Window):
     def frame(self, control):
         """A control's left, top, width and height in the window."""
         left, bottom, width, height = self._controls[control]
-        return left, self.height - bottom - height, width, height
+        return left, self.geometry()[3] - bottom - height, width, height
 
     def picture_of(self, control):
         return self.picture().crop(*self.frame(control))

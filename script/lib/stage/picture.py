@@ -29,14 +29,19 @@ class Picture:
     def ppm(self):
         return b"P6 %d %d 255\n" % (self.width, self.height) + self.pixels
 
-    def save(self, file):
-        """Writes the picture to a file, in the format that its name asks for."""
-        subprocess.run(["convert", "ppm:-", str(file)], input=self.ppm(), check=True)
+
+def _printed_by(*command):
+    data = subprocess.run([*command, "-depth", "8", "ppm:-"], stdin=subprocess.DEVNULL,
+                          stdout=subprocess.PIPE, check=True).stdout
+    width, height = (int(number) for number in data.split(maxsplit=3)[1:3])
+    return Picture(width, height, data[-3 * width * height:])
 
 
 def picture_of(window):
     """What an X window shows now."""
-    data = subprocess.run(["import", "-silent", "-window", window, "-depth", "8", "ppm:-"],
-                          stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, check=True).stdout
-    width, height = (int(number) for number in data.split(maxsplit=3)[1:3])
-    return Picture(width, height, data[-3 * width * height:])
+    return _printed_by("import", "-silent", "-window", window)
+
+
+def picture_in(file):
+    """The picture in a file of any form."""
+    return _printed_by("convert", str(file))

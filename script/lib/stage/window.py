@@ -12,15 +12,11 @@ def _output(*command):
                           stderr=subprocess.DEVNULL, text=True).stdout
 
 
-def _numbers(text, *captions):
-    return [int(re.search(rf"{caption}:\s*(-?\d+)", text).group(1)) for caption in captions]
-
-
 def windows_of(program):
-    """The identifiers of the windows that a program shows and that can be closed."""
-    shown = _output("xdotool", "search", "--onlyvisible", "--classname", f"^{program}$").split()
-    return [window for window in shown
-            if "WM_DELETE_WINDOW" in _output("xprop", "-id", window, "WM_PROTOCOLS")]
+    """The identifiers of a program's windows that the window manager shows, the oldest first."""
+    managed = re.findall(r"0x[0-9a-f]+", _output("xprop", "-root", "_NET_CLIENT_LIST"))
+    return [window for window in managed
+            if f'"{program}"' in _output("xprop", "-id", window, "WM_CLASS")]
 
 
 class Window:
@@ -28,36 +24,46 @@ class Window:
 
     def __init__(self, identifier):
         self.identifier = identifier
-        geometry = _output("xwininfo", "-id", identifier)
-        self.left, self.top, self.width, self.height = _numbers(
-            geometry, "Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
 
     @classmethod
     def of(cls, program):
-        """The one window of a program, as soon as it is shown."""
+        """The first window of a program, as soon as it is shown and stays as it is."""
         shown = wait_until(lambda: windows_of(program), f"{program} shows its window")
-        return cls(shown[0])
+        window = cls(shown[0])
+        window.settled_picture()
+        return window
+
+    def geometry(self):
+        """Left and top on the display, width and height."""
+        words = _output("xwininfo", "-id", self.identifier)
+        return [int(re.search(rf"{caption}:\s*(-?\d+)", words).group(1))
+                for caption in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")]
 
     def picture(self):
         return picture_of(self.identifier)
 
+    def save_picture(self, file):
+        """Writes a picture of the window with its frame to a file."""
+        _output("import", "-silent", "-frame", "-window", self.identifier, str(file))
+
     def settled_picture(self):
         """The window's picture once it no longer changes."""
-        seen = [self.picture()]
+        seen = [(self.geometry(), self.picture())]
 
         def settled():
-            seen.append(self.picture())
+            seen.append((self.geometry(), self.picture()))
             return seen[-1] == seen[-2]
 
         wait_until(settled, "the window's picture is settled")
-        return seen[-1]
+        return seen[-1][1]
 
     def states(self):
         """What the window manager says of the window."""
         return _output("xprop", "-id", self.identifier, "_NET_WM_STATE")
 
     def click(self, x, y):
-        _output("xdotool", "mousemove", str(self.left + x), str(self.top + y), "click", "1")
+        left, top, _, _ = self.geometry()
+        _output("xdotool", "mousemove", str(left + x), str(top + y), "click", "1")
 
     def press(self, *keys):
         _output("xdotool", "key", "--clearmodifiers", *keys)

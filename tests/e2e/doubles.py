@@ -1,0 +1,64 @@
+"""The doubles that stand in for programs that are not ours, and what they record."""
+
+import contextlib
+import os
+import pathlib
+import shutil
+import subprocess
+
+from stage.waiting import wait_until
+
+DOUBLE = pathlib.Path(__file__).resolve().parents[2] / "build/tests/e2e/e2e-double"
+
+
+class Record:
+    """What the doubles have met: a list of process and event, in the order of the events."""
+
+    def __init__(self, file):
+        self.file = file
+
+    def events(self):
+        if not self.file.exists():
+            return []
+        lines = [line.split() for line in self.file.read_text().splitlines()]
+        return [(int(process), event) for process, event in lines]
+
+    def wait_for(self, process, event):
+        wait_until(lambda: (process, event) in self.events(), f"{process} records {event}")
+
+
+def running(name):
+    """The processes with a command name, by rising number; zombies are none."""
+    found = []
+    for stat in pathlib.Path("/proc").glob("[0-9]*/stat"):
+        try:
+            process, rest = stat.read_text(errors="replace").split(" (", 1)
+        except (FileNotFoundError, ProcessLookupError):
+            continue
+        command, state = rest.rsplit(") ", 1)
+        if command == name and not state.startswith("Z"):
+            found.append(int(process))
+    return sorted(found)
+
+
+def command_of(process):
+    """A process's name and arguments, as the system tells them."""
+    folder = pathlib.Path(f"/proc/{process}")
+    with contextlib.suppress(FileNotFoundError, ProcessLookupError):
+        return (folder / "comm").read_text().strip(), (folder / "cmdline").read_text().split("\0")
+
+
+def arguments_of(process):
+    """The arguments that a process was started with, without its own name."""
+    return pathlib.Path(f"/proc/{process}/cmdline").read_text().split("\0")[1:-1]
+
+
+def start(name, record, folder):
+    """Starts a double under a name; it is running and listening on return."""
+    program = folder / name
+    if not program.exists():
+        shutil.copy(DOUBLE, program)
+    child = subprocess.Popen([program], stdin=subprocess.DEVNULL,
+                             env={**os.environ, "RECORD": str(record.file)})
+    record.wait_for(child.pid, "started")
+    return child

@@ -1,0 +1,41 @@
+"""What ends with the launcher."""
+
+import os
+import signal
+
+import doubles
+from case import READY, LauncherTest
+from stage.waiting import wait_until
+
+
+class QuitTest(LauncherTest):
+    def test_the_viewer_and_the_first_companion_are_asked_to_end(self):
+        first, second = sorted([self.start_double("vexwatch"), self.start_double("vexwatch")])
+        self.start()
+        self.enter("vorxLocation", "https://server.example")
+        self.enter("ipAddress", "10.0.0.5")
+        self.wait_for_status(READY)
+        self.press_launch()
+        viewer = self.wait_for_viewer()
+
+        self.quit()
+        self.record.wait_for(viewer, "SIGTERM")
+        self.record.wait_for(first, "SIGTERM")
+        self.assertEqual(doubles.running("vexwatch"), [second])
+        self.assertNotIn((second, "SIGTERM"), self.record.events())
+
+    def test_the_menu_key_quits(self):
+        self.start()
+        self.window.press("ctrl+q")
+        self.assertEqual(self.launcher.wait(timeout=60), 0)
+
+    def test_a_viewer_that_has_ended_is_reaped(self):
+        self.start()
+        self.enter("vorxLocation", "https://server.example")
+        self.enter("ipAddress", "10.0.0.5")
+        self.wait_for_status(READY)
+        self.press_launch()
+        viewer = self.wait_for_viewer()
+        os.kill(viewer, signal.SIGTERM)
+        wait_until(lambda: not os.path.exists(f"/proc/{viewer}"), "the launcher has reaped it")
+        self.assertIsNone(self.launcher.poll())
