@@ -16,6 +16,7 @@ NSTextField* label(NSRect frame, NSString* text, NSFont* font) {
   [field setStringValue:text];
   [field setFont:font];
   [field setEditable:NO];
+  [field setSelectable:NO];
   [field setBezeled:NO];
   [field setBordered:NO];
   [field setDrawsBackground:NO];
