@@ -77,11 +77,11 @@ class LauncherTest(unittest.TestCase):
             self.skipTest(f"images cannot be attached here: {reason}")
         return pathlib.Path(volume) / APPLICATION, address
 
-    def start(self, program=None, *, folder=None, language="en"):
+    def start(self, program=None, *, folder=None, language="en", locale="C.UTF-8"):
         """Starts the launcher and waits for its window."""
         self.launcher = subprocess.Popen(
             [str(program or self.application / PROGRAM)], cwd=folder, stdin=subprocess.DEVNULL,
-            env={**os.environ, "HOME": str(self.folder), "LC_ALL": "C.UTF-8", "LANGUAGE": language,
+            env={**os.environ, "HOME": str(self.folder), "LC_ALL": locale, "LANGUAGE": language,
                  "RECORD": str(self.record.file)})
         self.addCleanup(self.end)
         self.window = LauncherWindow.shown()

@@ -22,3 +22,8 @@ class LanguageTest(LauncherTest):
         self.enter("vorxLocation", "https://server.example")
         self.wait_for_german(READY)
         self.assertEqual(self.button_title("deu"), "Starten")
+
+    def test_a_locale_that_the_machine_need_not_have(self):
+        self.start(language="", locale="pt_BR.UTF-8")
+        title = reading.read(self.window.picture_of("launchButton"))
+        self.assertEqual(reading.nearest(title, ["Launch", "Iniciar"]), "Iniciar")
