@@ -32,7 +32,7 @@ class ProcessTable {
   /// The size of one record in bytes.
   virtual std::size_t recordSize() const = 0;
 
-  /// Sets `length` to the number of bytes that the table needs now.
+  /// Sets `length` to the number of bytes that the table needs now, or some more.
   ///
   /// Returns 0, or -1 with `errno` set. What another value means is the caller's to judge.
   virtual int probeSize(std::size_t& length) const = 0;

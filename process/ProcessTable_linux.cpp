@@ -1,6 +1,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -20,6 +21,8 @@ namespace {
 
 // The table's records are the structure itself.
 static_assert(std::is_trivially_copyable_v<ProcessRecord>);
+
+constexpr const char* procFolder = "/proc";
 
 /// A descriptor that closes itself.
 class Descriptor {
@@ -48,7 +51,7 @@ std::optional<ProcessId> parseProcessId(std::string_view name) {
 /// The processes listed in /proc, one after the other.
 class ProcessListing {
  public:
-  ProcessListing() : stream_(opendir("/proc")) {}
+  ProcessListing() : stream_(opendir(procFolder)) {}
   ProcessListing(const ProcessListing&) = delete;
   ProcessListing& operator=(const ProcessListing&) = delete;
   ~ProcessListing() {
@@ -91,12 +94,12 @@ class ProcTable : public ProcessTable {
   std::size_t recordSize() const override { return sizeof(ProcessRecord); }
 
   int probeSize(std::size_t& length) const override {
-    ProcessListing listing;
-    if (!listing.isOpen()) return -1;
-
-    length = 0;
-    while (listing.next()) length += sizeof(ProcessRecord);
-    return errno == 0 ? 0 : -1;
+    // Each process is a link of the folder, beside a few that are none. Counting the entries would
+    // cost a sixth of a search.
+    struct stat proc {};
+    if (stat(procFolder, &proc) == -1) return -1;
+    length = proc.st_nlink * sizeof(ProcessRecord);
+    return 0;
   }
 
   int fetch(std::byte* buffer, std::size_t& length) const override {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <signal.h>
 #include <sys/wait.h>
 
 #include <cerrno>
+#include <csignal>
 
 namespace launcher {
 

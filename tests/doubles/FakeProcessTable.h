@@ -76,7 +76,7 @@ class FakeProcessTable : public ProcessTable {
     return result;
   }
 
-  bool hasEnded(ProcessId pid) const override { return ended.count(pid) > 0; }
+  bool hasEnded(ProcessId pid) const override { return ended.contains(pid); }
 
  private:
   const ProcessRecords& shown() const { return upcoming.empty() ? processes : upcoming.front(); }

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <cerrno>
 #include <csignal>
@@ -17,11 +18,11 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <thread>
 #include <utility>
 #include <vector>
 
 #include "base/Spawn_linux.h"
+#include "tests/InThreads.h"
 #include "tests/contract/Eventually.h"
 #include "tests/contract/Pipe.h"
 #include "tests/contract/Processes.h"
@@ -37,7 +38,7 @@ std::string outputOf(std::vector<std::string> arguments) {
   const auto child =
       spawn({.path = testChild, .arguments = std::move(arguments), .output = pipe.writer()});
   if (child == nullptr) return "not started";
-  const std::string output = pipe.all();
+  std::string output = pipe.all();
   child->waitUntilExit();
   return output;
 }
@@ -132,8 +133,8 @@ TEST(SpawnTest, InheritsStandardInput) {
 }
 
 TEST(SpawnTest, LeaksNoDescriptorIntoTheChild) {
-  std::vector<int> inheritable;
-  for (int i = 0; i < 100; ++i) inheritable.push_back(open("/dev/null", O_RDONLY));
+  std::array<int, 100> inheritable{};
+  for (int& descriptor : inheritable) descriptor = open("/dev/null", O_RDONLY);
   EXPECT_EQ(outputOf({"descriptors"}), "0 1 2 ");
   for (const int descriptor : inheritable) close(descriptor);
 }
@@ -165,13 +166,16 @@ TEST(SpawnTest, TerminateEndsTheChildAndLeavesNoZombie) {
 TEST(SpawnTest, TellsTheExitOnceAfterTheReaping) {
   std::atomic<int> exits = 0;
   std::atomic<bool> reaped = false;
-  const auto child = spawn({.path = testChild, .arguments = {"exit"}, .onExit = [&] {
-                              reaped = hasNoChildren();
-                              ++exits;
-                            }});
+  auto held = std::make_shared<int>();
+  const std::weak_ptr<int> handler = held;
+  const auto child =
+      spawn({.path = testChild, .arguments = {"exit"}, .onExit = [&, held = std::move(held)] {
+               reaped = hasNoChildren();
+               ++exits;
+             }});
   ASSERT_NE(child, nullptr);
   child->waitUntilExit();
-  EXPECT_TRUE(eventually(onlyLastingThreads));
+  EXPECT_TRUE(eventually([&] { return handler.expired(); })) << "the handler is dropped after use";
   EXPECT_EQ(exits, 1);
   EXPECT_TRUE(reaped);
 }
@@ -220,20 +224,16 @@ TEST(SpawnTest, KeepsNoDescriptorAndNoThread) {
 
 TEST(SpawnTest, ServesSeveralThreadsAtOnce) {
   std::atomic<int> ended = 0;
-  std::vector<std::thread> threads;
-  for (int i = 0; i < 4; ++i) {
-    threads.emplace_back([&] {
-      for (int run = 0; run < 5; ++run) {
-        WaitingChild child;
-        std::thread other([&] { child.handle->terminate(); });
+  inThreads(4, [&](int /*number*/) {
+    for (int run = 0; run < 5; ++run) {
+      WaitingChild child;
+      inThreads(2, [&](int /*number*/) {
         child.handle->terminate();
         child.handle->waitUntilExit();
-        other.join();
-        ended += isThere(child.pid) ? 0 : 1;
-      }
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
+      });
+      ended += isThere(child.pid) ? 0 : 1;
+    }
+  });
   EXPECT_EQ(ended, 20);
   EXPECT_TRUE(hasNoChildren());
 }
@@ -288,7 +288,7 @@ TEST(SpawnTest, TerminateAfterTheExitSignalsNobody) {
 
 /// Files that cannot be started.
 class UnusableProgramTest : public testing::Test {
- protected:
+ public:
   UnusableProgramTest() {
     mkdtemp(folder_.data());
     write("plain", 0600, "#!/bin/sh\n");
@@ -300,6 +300,7 @@ class UnusableProgramTest : public testing::Test {
     rmdir(folder_.c_str());
   }
 
+ protected:
   std::string file(const std::string& name) const { return folder_ + "/" + name; }
 
   std::string folder_ = testing::TempDir() + "unusable-XXXXXX";

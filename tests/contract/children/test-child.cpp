@@ -64,14 +64,9 @@ int announceAndWait(int argc, char** argv) {
   return 0;
 }
 
-/// Goes on in another thread when the first one has ended.
+/// Goes on in another thread while the first one ends.
 int announceWithoutFirstThread(int argc, char** argv) {
-  const pthread_t first = pthread_self();
-  std::thread([=] {
-    pthread_join(first, nullptr);
-    announce(argc, argv);
-    pause();
-  }).detach();
+  std::thread([=] { announceAndWait(argc, argv); }).detach();
   pthread_exit(nullptr);
 }
 

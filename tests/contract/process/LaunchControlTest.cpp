@@ -23,7 +23,7 @@ namespace {
 /// The whole launch with a real table, real programs and short waits. Viewers that somebody else
 /// runs on the machine meanwhile cost more waits and change nothing else.
 class RealLaunchTest : public testing::Test {
- protected:
+ public:
   RealLaunchTest() {
     resources_ = folder_.file("Res \u00e9");
     bundle_.resources = resources_;
@@ -38,6 +38,7 @@ class RealLaunchTest : public testing::Test {
     }
   }
 
+ protected:
   /// Launches, and gives the new viewer's identifier.
   ProcessId launch(const std::string& location = "host", const std::string& ip = "1.2.3.4") {
     control_.launchProc(location, ip);
@@ -93,7 +94,7 @@ TEST_F(RealLaunchTest, ASecondLaunchReplacesTheViewer) {
 }
 
 TEST_F(RealLaunchTest, AStubbornViewerGetsACompanionAfterFiveWaits) {
-  std::ofstream(resources_ + "/stubborn");
+  const std::ofstream stubborn(resources_ + "/stubborn");
   const ProcessId first = launch();
   sleeper_.sleeps.clear();
   const ProcessId second = launch();

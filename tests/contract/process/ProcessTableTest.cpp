@@ -6,11 +6,11 @@
 #include <cerrno>
 #include <list>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "process/ProcessHelpers.h"
 #include "process/ProcessTable.h"
+#include "tests/InThreads.h"
 #include "tests/contract/process/NamedProcess.h"
 
 namespace launcher {
@@ -38,10 +38,10 @@ std::string ownOf(std::size_t bytes) {
 /// A fetch into a buffer of so many bytes, with more behind it.
 struct Fetch {
   explicit Fetch(std::size_t capacity)
-      : buffer(capacity + table().recordSize(), untouched), length(capacity) {
-    result = table().fetch(buffer.data(), length);
-    error = result == -1 ? errno : 0;
-  }
+      : buffer(capacity + table().recordSize(), untouched),
+        length(capacity),
+        result(table().fetch(buffer.data(), length)),
+        error(result == -1 ? errno : 0) {}
 
   std::vector<ProcessId> pids() const {
     std::vector<ProcessId> found;
@@ -58,8 +58,8 @@ struct Fetch {
 
   std::vector<std::byte> buffer;
   std::size_t length;
-  int result = 0;
-  int error = 0;
+  int result;
+  int error;
 };
 
 std::size_t probedLength() {
@@ -109,10 +109,15 @@ TEST(ProcessTableTest, ListsEachProcessOnce) {
   EXPECT_EQ(std::count(pids.begin(), pids.end(), getpid()), 1);
 }
 
-TEST(ProcessTableTest, TheProbeCountsWholeRecords) {
-  const std::size_t before = probedLength();
-  EXPECT_GT(before, 0U);
-  EXPECT_EQ(before % table().recordSize(), 0U);
+TEST(ProcessTableTest, ABufferOfTheProbedSizeHoldsTheTable) {
+  const std::list<NamedProcess> processes = [] {
+    std::list<NamedProcess> started;
+    for (int i = 0; i < 20; ++i) started.emplace_back(own());
+    return started;
+  }();
+  const auto holds = [] { return Fetch(probedLength()).result == 0; };
+  EXPECT_TRUE(eventually(holds));  // others on the machine may start between probe and fetch
+  EXPECT_EQ(probedLength() % table().recordSize(), 0U);
 }
 
 TEST(ProcessTableTest, TheProbeForgetsTheLengthItIsGiven) {
@@ -142,13 +147,13 @@ TEST(ProcessTableTest, ATooSmallBufferIsFilledWithWholeRecords) {
   }
 }
 
-TEST(ProcessTableTest, ATableThatHasGrownSinceTheProbeIsTooLarge) {
+TEST(ProcessTableTest, ATableThatHasGrownIsTooLarge) {
   std::list<NamedProcess> processes;
   const auto growsBetween = [&] {
-    const std::size_t probed = probedLength();
-    for (int i = 0; i < 10; ++i) processes.emplace_back(own());
-    const Fetch fetch(probed);
-    return fetch.result == -1 && fetch.error == ENOMEM && fetch.length == probed;
+    const std::size_t before = Fetch(2 * probedLength()).length;
+    for (int i = 0; i < 5; ++i) processes.emplace_back(own());
+    const Fetch fetch(before);
+    return fetch.result == -1 && fetch.error == ENOMEM && fetch.length == before;
   };
   EXPECT_TRUE(eventually(growsBetween));  // others on the machine may end at the same time
 }
@@ -158,18 +163,14 @@ TEST(ProcessTableTest, AProcessIsFoundFromSeveralThreadsWhileOthersComeAndGo) {
   const auto starter = makeProgramStarter();
   const auto finds = [&] { return search(own()) == process.pid(); };
   std::atomic<int> found = 0;
-  std::atomic<int> running = 4;
-  std::vector<std::thread> threads;
-  for (int i = 0; i < 4; ++i) {
-    threads.emplace_back([&] {
-      // A single search may miss it: a process with a lower identifier that starts between probe
-      // and fetch pushes it out of the snapshot.
-      for (int run = 0; run < 50; ++run) found += eventually(finds) ? 1 : 0;
-      --running;
-    });
-  }
-  while (running > 0) starter->start(TEST_CHILDREN "/test-child", {"exit"});
-  for (std::thread& thread : threads) thread.join();
+  // A single search may miss it: a process with a lower identifier that starts between probe and
+  // fetch pushes it out of the snapshot.
+  inThreads(4, [&](int /*number*/) {
+    for (int run = 0; run < 50; ++run) {
+      starter->start(TEST_CHILDREN "/test-child", {"exit"});
+      found += eventually(finds) ? 1 : 0;
+    }
+  });
   EXPECT_EQ(found, 200);
   process.stop();
   EXPECT_TRUE(eventually(hasNoChildren));

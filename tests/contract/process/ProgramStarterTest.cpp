@@ -3,10 +3,10 @@
 
 #include <atomic>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "process/ProgramStarter.h"
+#include "tests/InThreads.h"
 #include "tests/contract/process/NamedProcess.h"
 
 namespace launcher {
@@ -48,18 +48,14 @@ TEST(ProgramStarterTest, ADroppedHandleLeavesTheProgramRunning) {
 TEST(ProgramStarterTest, ServesSeveralThreadsAtOnce) {
   const auto starter = makeProgramStarter();
   std::atomic<int> started = 0;
-  std::vector<std::thread> threads;
-  for (int i = 0; i < 4; ++i) {
-    threads.emplace_back([&] {
-      for (int run = 0; run < 10; ++run) {
-        const auto program = starter->start(TEST_CHILDREN "/test-child", {"exit"});
-        if (program == nullptr) continue;
-        program->terminate();
-        ++started;
-      }
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
+  inThreads(4, [&](int /*number*/) {
+    for (int run = 0; run < 10; ++run) {
+      const auto program = starter->start(TEST_CHILDREN "/test-child", {"exit"});
+      if (program == nullptr) continue;
+      program->terminate();
+      ++started;
+    }
+  });
   EXPECT_EQ(started, 40);
   EXPECT_TRUE(eventually(hasNoChildren));
 }

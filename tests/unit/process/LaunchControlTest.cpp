@@ -3,10 +3,10 @@
 #include <atomic>
 #include <memory>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "process/LaunchControl.h"
+#include "tests/InThreads.h"
 #include "tests/doubles/FakeBundle.h"
 #include "tests/doubles/FakeProcessTable.h"
 #include "tests/doubles/FakeProgramStarter.h"
@@ -28,7 +28,7 @@ class LaunchControlTest : public testing::Test {
     return *starter_.starts.back().process;
   }
 
-  void expectSleeps(const std::vector<double>& expected) {
+  void expectSleeps(const std::vector<double>& expected) const {
     EXPECT_EQ(sleeper_.sleeps, expected);
     EXPECT_EQ(table_.searches, static_cast<int>(expected.size()) + 1);
   }
@@ -244,18 +244,14 @@ TEST(LaunchControlThreadsTest, EveryMemberMayBeCalledAtTheSameTime) {
   FakeSleeper sleeper;
   LaunchControl control({bundle, table, starter, sleeper});
 
-  std::vector<std::thread> threads;
-  for (int i = 0; i < 4; ++i) {
-    threads.emplace_back([&control, i] {
-      for (int run = 0; run < 200; ++run) {
-        control.launchProc("host", "1.2.3.4");
-        control.runningProcess();
-        control.setRunningAppPID(control.runningAppPID() + i);
-        control.terminateProc();
-      }
-    });
-  }
-  for (std::thread& thread : threads) thread.join();
+  inThreads(4, [&](int number) {
+    for (int run = 0; run < 200; ++run) {
+      control.launchProc("host", "1.2.3.4");
+      control.runningProcess();
+      control.setRunningAppPID(control.runningAppPID() + number);
+      control.terminateProc();
+    }
+  });
   EXPECT_EQ(control.runningProcess(), nullptr);
   EXPECT_GE(starter.terminations, 200);
   EXPECT_LE(starter.terminations, 800);
