@@ -17,6 +17,7 @@ template <class Reference>
 using Owned = std::unique_ptr<std::remove_pointer_t<Reference>, Release>;
 
 Owned<CFStringRef> platformText(const std::string& text) {
+  if (text.empty()) return nullptr;
   const std::vector<UInt8> bytes(text.begin(), text.end());
   return Owned<CFStringRef>(CFStringCreateWithBytes(kCFAllocatorDefault, bytes.data(),
                                                     static_cast<CFIndex>(bytes.size()),

@@ -7,7 +7,8 @@ import unittest
 from localised import tables
 from product import BUNDLE, CONTENTS, PROGRAM, RESOURCES, ROOT, VIEWER, build
 
-LANGUAGES = ["de", "en", "es", "fr", "it", "ja", "pt-BR", "zh-Hans"]
+LANGUAGES = sorted(table.parent.stem
+                   for table in (ROOT / "resources").glob("*.lproj/Localizable.strings"))
 
 INFORMATION = {
     "CFBundleDevelopmentRegion": "en",
