@@ -9,9 +9,6 @@ set_target_properties(VorxLauncher PROPERTIES
 set(bundle_programs "${CMAKE_BINARY_DIR}/VorxLauncher.app/Contents/Resources/bin")
 include(BundlePrograms)
 
-# The layout resources name classes that no code does.
-target_link_options(VorxLauncher PRIVATE "LINKER:-ObjC")
-
 # Puts files into a folder of Contents/.
 function(bundle_files folder)
   target_sources(VorxLauncher PRIVATE ${ARGN})

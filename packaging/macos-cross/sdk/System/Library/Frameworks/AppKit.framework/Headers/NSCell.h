@@ -2,14 +2,30 @@
 
 #import <AppKit/NSView.h>
 
+@class NSAttributedString;
+@class NSEvent;
 @class NSFont;
+@class NSText;
 
 typedef NS_ENUM(NSUInteger, NSLineBreakMode) { NSLineBreakByCharWrapping = 1 };
 
 FOUNDATION_EXPORT @interface NSCell : NSObject <NSCopying, NSCoding>
 @property(retain) NSFont* font;
 @property NSLineBreakMode lineBreakMode;
-- (NSRect)drawingRectForBounds:(NSRect)bounds;
+@property(readonly, copy) NSAttributedString* attributedStringValue;
+- (NSRect)titleRectForBounds:(NSRect)bounds;
+- (void)drawInteriorWithFrame:(NSRect)frame inView:(NSView*)view;
+- (void)editWithFrame:(NSRect)frame
+               inView:(NSView*)view
+               editor:(NSText*)editor
+             delegate:(id)delegate
+                event:(NSEvent*)event;
+- (void)selectWithFrame:(NSRect)frame
+                 inView:(NSView*)view
+                 editor:(NSText*)editor
+               delegate:(id)delegate
+                  start:(NSInteger)start
+                 length:(NSInteger)length;
 @end
 
 FOUNDATION_EXPORT @interface NSActionCell : NSCell

@@ -3,6 +3,7 @@
 #include <CoreFoundation/CoreFoundation.h>
 
 typedef double CGFloat;
+#define CGFLOAT_MAX __DBL_MAX__
 
 struct CGPoint {
   CGFloat x;

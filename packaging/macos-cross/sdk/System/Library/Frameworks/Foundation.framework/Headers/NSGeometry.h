@@ -6,6 +6,11 @@ typedef CGPoint NSPoint;
 typedef CGSize NSSize;
 typedef CGRect NSRect;
 
+static inline NSSize NSMakeSize(CGFloat width, CGFloat height) {
+  NSSize size = {width, height};
+  return size;
+}
+
 static inline NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat width, CGFloat height) {
   NSRect rect = {{x, y}, {width, height}};
   return rect;

@@ -41,3 +41,6 @@ FOUNDATION_EXPORT @interface NSString : NSObject <NSCopying>
                         usingBlock:(void (^)(NSString* substring, NSRange substringRange,
                                              NSRange enclosingRange, BOOL* stop))block;
 @end
+
+FOUNDATION_EXPORT @interface NSAttributedString : NSObject <NSCopying>
+@end
