@@ -11,7 +11,7 @@ CONTENTS = BUNDLE / "Contents"
 RESOURCES = CONTENTS / "Resources"
 PROGRAM = CONTENTS / "MacOS" / "VorxLauncher"
 VIEWER = RESOURCES / "bin" / "vexlink"
-TEST_PROGRAMS = [BUILD / "tests" / f"{name}-tests" for name in ("unit", "contract", "window")]
+TEST_PROGRAMS = [BUILD / "tests" / f"{name}-tests" for name in ("unit", "contract")]
 
 ARCHITECTURES = ["arm64", "x86_64"]
 

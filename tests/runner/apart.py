@@ -38,9 +38,10 @@ def _prefix():
 
 def apart(command, *, folder, display):
     """The command, wrapped so that it runs apart, with a display of its own where it needs one. The
-    folder, an empty one, takes the place of /tmp meanwhile."""
-    return [*_prefix(), sys.executable, __file__, str(folder), "display" if display else "none",
-            *command]
+    folder, an empty one, takes the place of /tmp meanwhile. A Mac has one display for all."""
+    own_display = display and sys.platform != "darwin"
+    return [*_prefix(), sys.executable, __file__, str(folder),
+            "display" if own_display else "none", *command]
 
 
 def _mount(source, target):

@@ -1,5 +1,7 @@
 """The suites by name, in the order in which they run."""
 
+import platform
+
 import fuzz
 import lint
 import sanitizers
@@ -17,4 +19,11 @@ SUITES = {
     "endurance": GoogleTestSuite("endurance-tests", apart=True),
     "window": GoogleTestSuite("window-tests", apart=True, display=True),
     "e2e": PythonSuite("tests/e2e", targets=["application", "e2e-double"], apart=True, display=True),
+    "macos": PythonSuite("tests/macos"),
 }
+
+# The others drive an X display, or look from Linux at what a Mac meets by itself.
+ON_MACOS = ["strings", "icon", "unit", "contract", "window"]
+
+if platform.system() == "Darwin":
+    SUITES = {name: SUITES[name] for name in ON_MACOS}
