@@ -115,6 +115,16 @@ TEST(PropertyListLinuxTest, BinaryValuesMayLieInFiveHundredOthers) {
   EXPECT_EQ(errorOf(nestedBinaryList(60'000).bytes()), "nested too deeply");
 }
 
+TEST(PropertyListLinuxTest, SetsAreReadAsOther) {
+  const auto setOf = [](const std::string& item) {
+    BinaryList list;
+    list.objects = {BinaryList::head(0xC, 1) + '\x01', item};
+    return list.bytes();
+  };
+  EXPECT_EQ(describedReading(setOf(BinaryList::text("a"))), "other");
+  EXPECT_EQ(describedReading(setOf("\x5f")), "error");
+}
+
 TEST(PropertyListLinuxTest, DepthCountsAlongEveryWay) {
   BinaryList list = nestedBinaryList(300);
   const std::uint64_t deep = list.objects.size();

@@ -57,6 +57,15 @@ TEST(MountTableTest, DecodesTheKernelsEscapes) {
               ElementsAre(Mount{"0:9", "host:/a b", "/mnt"}));
 }
 
+TEST(MountTableTest, KeepsABackslashThatBeginsNoEscape) {
+  for (const char* name : {R"(\)", R"(a\)", R"(\04)", R"(\400)", R"(\048)", R"(\084)", R"(\x40)"}) {
+    EXPECT_THAT(
+        parseMountTable("52 27 7:0 / /" + std::string(name) + " ro - squashfs /dev/loop0 ro"),
+        ElementsAre(Mount{"7:0", "/dev/loop0", "/" + std::string(name)}))
+        << name;
+  }
+}
+
 TEST(MountTableTest, FieldsMayBeEmpty) {
   EXPECT_THAT(parseMountTable("52 27 0:9 / /mnt ro - tmpfs  rw\n"),
               ElementsAre(Mount{"0:9", "", "/mnt"}));
