@@ -9,11 +9,13 @@ namespace launcher {
 /// A URL, kept as its absolute text. A value; any thread.
 class Url {
  public:
-  /// The URL that a text spells, or absent where the text is not a valid URL (the empty text, a
-  /// blank or a non-ASCII character inside, a bad escape). The text's form is kept.
+  /// The URL that a text spells, or absent where the text is not a valid URL: the empty text, a
+  /// character inside that no URL holds (a blank, a control or non-ASCII character, one of
+  /// <>"\^`{|}), a bad escape, a second "#". A relative one is valid. The text's form is kept.
   static std::optional<Url> parse(std::string_view text);
 
-  /// The file URL of a path that is not a folder. Bytes that a URL cannot hold are escaped.
+  /// The file URL of a path that is not a folder; a relative path is taken from the working
+  /// folder. Bytes that a URL cannot hold are escaped.
   ///
   ///     Url::ofFile("/a b/c.dmg")   -> file:///a%20b/c.dmg
   static Url ofFile(std::string_view path);
@@ -34,6 +36,7 @@ class Url {
   ///     https://h/D/F     -> https://h/D/
   ///     https://h/dir/    -> https://h/
   ///     https://h         -> https://h
+  ///     https://h/        -> https://h/   (older systems: https://h/../)
   Url deletingLastPathComponent() const;
 
   /// The whole URL as text.

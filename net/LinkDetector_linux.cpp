@@ -89,9 +89,8 @@ std::optional<LinkMatch> domainLink(std::u16string_view text, Word word) {
       word.begin > 0 && kParting.find(text[word.begin - 1]) != std::u16string_view::npos;
   const Word host = withoutFullStops(text, word);
   if (parted || !isBareDomain(host.in(text))) return std::nullopt;
-  const bool whole = host.end == word.end;
   return matchOf(text, {"http://", host.begin, host.begin, host.end,
-                        whole ? skipTail(text, skipPort(text, host.end)) : host.end});
+                        skipTail(text, skipPort(text, host.end))});
 }
 
 std::optional<LinkMatch> linkAt(std::u16string_view text, Word word) {

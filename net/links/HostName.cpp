@@ -35,8 +35,8 @@ const UIDNA* punycode() {
   return converter;
 }
 
-/// The conversion takes time that grows with the square of a label, so no longer name is given to
-/// it. What it makes of a symbol may hold separators, so the result is looked at.
+/// A name that is too long has no such form.
+/// What becomes of a symbol may hold separators, so the result is looked at.
 std::optional<std::string> punycodeOf(std::u16string_view host) {
   if (host.size() > kLongestHost || punycode() == nullptr) return std::nullopt;
   std::array<char16_t, kLongestHost + 1> converted{};

@@ -82,10 +82,10 @@ struct PartCase {
 
 TEST(UrlTest, GivesTheSchemeAsTyped) {
   const PartCase kCases[] = {
-      {"https://h", "https"},   {"HtTp://h", "HtTp"},    {"mailto:a@b", "mailto"},
-      {"a+b-c.9:x", "a+b-c.9"}, {"http:", "http"},       {"//h/a:b", std::nullopt},
-      {"/a:b", std::nullopt},   {"h/a:b", std::nullopt}, {"a", std::nullopt},
-      {"?a:b", std::nullopt},
+      {"https://h", "https"},    {"HtTp://h", "HtTp"},   {"mailto:a@b", "mailto"},
+      {"a+b-c.9:x", "a+b-c.9"},  {"http:", "http"},      {"1a:b", std::nullopt},
+      {"//h/a:b", std::nullopt}, {"/a:b", std::nullopt}, {"h/a:b", std::nullopt},
+      {"a", std::nullopt},       {"?a:b", std::nullopt},
   };
   for (const auto& [url, part] : kCases) EXPECT_EQ(urlOf(url).scheme(), part) << shown(url);
 }
