@@ -8,15 +8,15 @@
 @interface WorkOperation : NSOperation {
   std::function<void()> _item;
 }
-- (id)initWithItem:(std::function<void()>)item;
++ (instancetype)withItem:(std::function<void()>)item;
 @end
 
 @implementation WorkOperation
 
-- (id)initWithItem:(std::function<void()>)item {
-  self = [super init];
-  if (self != nil) _item = std::move(item);
-  return self;
++ (instancetype)withItem:(std::function<void()>)item {
+  WorkOperation* operation = [[[self alloc] init] autorelease];
+  operation->_item = std::move(item);
+  return operation;
 }
 
 /// Lets go of what the item holds as soon as it has run, on the same thread.
@@ -38,9 +38,9 @@ class OperationWorkQueue : public WorkQueue {
   OperationWorkQueue& operator=(const OperationWorkQueue&) = delete;
 
   void add(std::function<void()> item) override {
-    WorkOperation* operation = [[WorkOperation alloc] initWithItem:std::move(item)];
-    [queue_ addOperation:operation];
-    [operation release];
+    @autoreleasepool {
+      [queue_ addOperation:[WorkOperation withItem:std::move(item)]];
+    }
   }
 
  private:
@@ -52,12 +52,13 @@ class OperationWorkQueue : public WorkQueue {
 class RunLoopWorkQueue : public WorkQueue {
  public:
   void add(std::function<void()> item) override {
-    WorkOperation* operation = [[WorkOperation alloc] initWithItem:std::move(item)];
-    [operation performSelectorOnMainThread:@selector(main)
-                                withObject:nil
-                             waitUntilDone:NO
-                                     modes:@[ NSDefaultRunLoopMode, NSEventTrackingRunLoopMode ]];
-    [operation release];
+    @autoreleasepool {
+      [[WorkOperation withItem:std::move(item)]
+          performSelectorOnMainThread:@selector(main)
+                           withObject:nil
+                        waitUntilDone:NO
+                                modes:@[ NSDefaultRunLoopMode, NSEventTrackingRunLoopMode ]];
+    }
   }
 };
 

@@ -27,7 +27,9 @@ class Hold {
  public:
   explicit Hold(ViewController* controller) : controller_([controller retain]) {}
   ~Hold() {
-    [controller_ performSelectorOnMainThread:@selector(release) withObject:nil waitUntilDone:NO];
+    @autoreleasepool {
+      [controller_ performSelectorOnMainThread:@selector(release) withObject:nil waitUntilDone:NO];
+    }
   }
   Hold(const Hold&) = delete;
   Hold& operator=(const Hold&) = delete;

@@ -3,6 +3,7 @@
 
 #import "app/gnustep/AppKitLikeness.h"
 
+#import <CoreGraphics/CoreGraphics.h>
 #import <QuartzCore/QuartzCore.h>
 
 #include <algorithm>
@@ -25,6 +26,10 @@ CGColorRef asLayerColour(NSColor* colour) { return reinterpret_cast<CGColorRef>(
 NSColor* asNamedColour(CGColorRef colour) { return reinterpret_cast<NSColor*>(colour); }
 
 }  // namespace
+
+bool CGColorEqualToColor(CGColorRef first, CGColorRef second) {
+  return first == second || [asNamedColour(first) isEqual:asNamedColour(second)];
+}
 
 @interface CALayer (Views)
 - (void)setView:(NSView*)view;

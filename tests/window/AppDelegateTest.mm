@@ -1,0 +1,104 @@
+// The application's delegate.
+
+#import "app/AppDelegate.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#import <objc/runtime.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "app/Services.h"
+#import "tests/window/Stage.h"
+
+namespace launcher {
+
+/// Those that quitting asks for.
+const Services& services() {
+  static const auto* const instance = [] {
+    auto* made = new Services;
+    made->processes = std::make_unique<FakeProcessTable>();
+    return made;
+  }();
+  return *instance;
+}
+
+namespace {
+
+FakeProcessTable& processesAtQuit() {
+  return static_cast<FakeProcessTable&>(*services().processes);
+}
+
+std::vector<std::string> delegateMessages() {
+  unsigned count = 0;
+  Method* methods = class_copyMethodList([AppDelegate class], &count);
+  std::vector<std::string> names;
+  for (unsigned i = 0; i < count; ++i) names.emplace_back(sel_getName(method_getName(methods[i])));
+  std::free(methods);
+  std::erase(names, "init");
+  return names;
+}
+
+/// A program that waits to be signalled; it runs already.
+pid_t startSleeper() {
+  std::string name = "sleep";
+  std::string seconds = "600";
+  char* const arguments[] = {name.data(), seconds.data(), nullptr};
+  pid_t child = -1;
+  posix_spawn(&child, "/bin/sleep", nullptr, nullptr, arguments, environ);
+  return child;
+}
+
+class AppDelegateTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    clearStage();
+    processesAtQuit().processes.clear();
+  }
+
+  void quit() {
+    [delegate_
+        applicationWillTerminate:[NSNotification
+                                     notificationWithName:NSApplicationWillTerminateNotification
+                                                   object:NSApp]];
+  }
+
+  AppDelegate* delegate_ = [[[AppDelegate alloc] init] autorelease];
+};
+
+TEST_F(AppDelegateTest, ImplementsThreeOperationsOfTheProtocol) {
+  EXPECT_THAT(delegateMessages(),
+              testing::ElementsAre("applicationDidFinishLaunching:", "applicationWillTerminate:",
+                                   "applicationShouldTerminateAfterLastWindowClosed:"));
+}
+
+TEST_F(AppDelegateTest, TheLastWindowClosesTheApplication) {
+  EXPECT_TRUE([delegate_ applicationShouldTerminateAfterLastWindowClosed:NSApp]);
+}
+
+TEST_F(AppDelegateTest, QuittingStopsTheViewer) {
+  LaunchControl::sharedInstance().launchProc("h", "1.2.3.4");
+  const auto viewer = stage().starter.starts.at(0).process;
+  quit();
+  EXPECT_EQ(viewer->terminations, 1);
+  EXPECT_EQ(LaunchControl::sharedInstance().runningProcess(), nullptr);
+}
+
+TEST_F(AppDelegateTest, QuittingSignalsTheCompanion) {
+  const pid_t companion = startSleeper();
+  processesAtQuit().processes = {processRecord(companion, "vexwatch")};
+  quit();
+  int status = 0;
+  ASSERT_EQ(waitpid(companion, &status, 0), companion);
+  EXPECT_TRUE(WIFSIGNALED(status));
+  EXPECT_EQ(WTERMSIG(status), SIGTERM);
+}
+
+}  // namespace
+}  // namespace launcher

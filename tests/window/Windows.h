@@ -1,0 +1,29 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#import "controller/ViewController.h"
+
+namespace launcher {
+
+/// The application's window from its layout resource, shown for as long as this lives.
+class LauncherWindowOnScreen {
+ public:
+  LauncherWindowOnScreen();
+  ~LauncherWindowOnScreen();
+  LauncherWindowOnScreen(const LauncherWindowOnScreen&) = delete;
+  LauncherWindowOnScreen& operator=(const LauncherWindowOnScreen&) = delete;
+
+  NSWindow* window() const { return window_; }
+  ViewController* controller() const;
+
+ private:
+  NSWindow* window_ = nil;
+};
+
+/// Types into whatever is being edited, as the keyboard does.
+void type(NSWindow* window, NSString* text);
+void tab(NSWindow* window);
+void backtab(NSWindow* window);
+
+}  // namespace launcher
