@@ -2,8 +2,8 @@
 
 #include "app/PrepareToolkit.h"
 
-int main(int argc, char** argv) {
+int main(int argc, const char** argv) {
   launcher::prepareToolkit();
-  NSApplicationMain(argc, const_cast<const char**>(argv));
+  NSApplicationMain(argc, argv);
   return 0;
 }

@@ -14,7 +14,7 @@
 - (void)launcher_setDocumentView:(NSView*)view {
   [self launcher_setDocumentView:view];
   if (![view isKindOfClass:[NSText class]]) return;
-  NSText* text = static_cast<NSText*>(view);
+  auto* text = static_cast<NSText*>(view);
   if (![text isFieldEditor] || [text drawsBackground]) return;
   [self setDrawsBackground:NO];
   [self setCopiesOnScroll:NO];

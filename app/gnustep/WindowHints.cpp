@@ -9,7 +9,7 @@ void keepAbove(void* toolkitDisplay, XWindow window) {
   constexpr long add = 1;
   constexpr long fromApplication = 1;
 
-  Display* display = static_cast<Display*>(toolkitDisplay);
+  auto* display = static_cast<Display*>(toolkitDisplay);
   const Atom state = XInternAtom(display, "_NET_WM_STATE", False);
   const Atom above = XInternAtom(display, "_NET_WM_STATE_ABOVE", False);
 
@@ -27,7 +27,7 @@ void keepAbove(void* toolkitDisplay, XWindow window) {
 }
 
 void setTransient(void* toolkitDisplay, XWindow dialogue, XWindow owner) {
-  Display* display = static_cast<Display*>(toolkitDisplay);
+  auto* display = static_cast<Display*>(toolkitDisplay);
   XSetTransientForHint(display, dialogue, owner);
 }
 
