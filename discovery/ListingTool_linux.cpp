@@ -67,7 +67,7 @@ class OutputReader {
 
  private:
   void run() {
-    std::array<char, 65536> buffer;
+    std::array<char, 65536> buffer{};
     while (awaitOutput()) {
       const ssize_t size = read(pipe_.number(), buffer.data(), buffer.size());
       if (size == 0 || (size < 0 && errno != EINTR)) return;

@@ -22,10 +22,12 @@ class PropertyList {
   using Dictionary = std::vector<std::pair<std::string, PropertyList>>;
 
   PropertyList() = default;
+  // Whatever is of one of the kinds is a value. NOLINTBEGIN(google-explicit-constructor)
   PropertyList(std::string text) : value_(std::move(text)) {}
   PropertyList(const char* text) : value_(std::string(text)) {}
   PropertyList(Array array) : value_(std::move(array)) {}
   PropertyList(Dictionary dictionary) : value_(std::move(dictionary)) {}
+  // NOLINTEND(google-explicit-constructor)
 
   /// The value if it is of that kind, else null.
   const std::string* text() const { return std::get_if<std::string>(&value_); }

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -215,6 +216,33 @@ TEST_F(ListingToolTest, WhatCannotBeStartedCallsNobody) {
   bundle_.resources = std::nullopt;
   EXPECT_FALSE(makeTool()->launch()) << "no resources";
   EXPECT_TRUE(eventually([&] { return OwnResources() == before; }));
+  EXPECT_EQ(output(), "");
+  EXPECT_EQ(exits_, 0);
+}
+
+/// Lets this process open nothing more for a while.
+class NoDescriptors {
+ public:
+  NoDescriptors() {
+    getrlimit(RLIMIT_NOFILE, &before_);
+    const rlimit none{0, before_.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &none);
+  }
+  NoDescriptors(const NoDescriptors&) = delete;
+  NoDescriptors& operator=(const NoDescriptors&) = delete;
+  ~NoDescriptors() { setrlimit(RLIMIT_NOFILE, &before_); }
+
+ private:
+  rlimit before_{};
+};
+
+TEST_F(ListingToolTest, WithoutDescriptorsItCannotBeStarted) {
+  script("echo a");
+  const auto tool = makeTool();
+  {
+    const NoDescriptors none;
+    EXPECT_FALSE(tool->launch());
+  }
   EXPECT_EQ(output(), "");
   EXPECT_EQ(exits_, 0);
 }
