@@ -1,7 +1,7 @@
 """The source keeps the habits that .clang-tidy asks for.
 
 A file is looked at again only after it, a header of ours that it reaches, its compile command or
-the list of habits has changed.
+the lists of habits have changed.
 """
 
 import hashlib
@@ -14,6 +14,7 @@ from lint.tool import check_each, check_with
 from project import BUILD, ROOT, configure
 from report import PASSED, Result
 
+LISTS = [ROOT / ".clang-tidy", ROOT / "tests" / ".clang-tidy"]
 REMEMBERED = BUILD / "lint"
 
 
@@ -60,6 +61,6 @@ def check():
     configure()
     REMEMBERED.mkdir(exist_ok=True)
     version = subprocess.run(["clang-tidy", "--version"], stdout=subprocess.PIPE).stdout
-    habits = version + (ROOT / ".clang-tidy").read_bytes()
+    habits = version + b"".join(path.read_bytes() for path in LISTS)
     fingerprints = {path: _fingerprint(path, command, habits) for path, command in _compiled()}
     return check_each(sorted(fingerprints), lambda path: _check(path, fingerprints[path]))
