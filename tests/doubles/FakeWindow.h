@@ -34,16 +34,16 @@ class FakeWindow : public LauncherWindow {
   }
   void setVorxLocation(Availability availability) override {
     locationEnabled = availability == Availability::enabled;
-    calls.push_back(locationEnabled ? "enable location" : "disable location");
+    calls.emplace_back(locationEnabled ? "enable location" : "disable location");
   }
   std::string ipAddress() const override { return ip; }
   void setIpAddressColour(FieldColour colour) override {
     ipColour = colour;
-    calls.push_back("colour ip");
+    calls.emplace_back("colour ip");
   }
   void setLaunchButton(Availability availability) override {
     buttonEnabled = availability == Availability::enabled;
-    calls.push_back(buttonEnabled ? "enable button" : "disable button");
+    calls.emplace_back(buttonEnabled ? "enable button" : "disable button");
   }
   void setLaunchButtonTitle(const std::string& title) override {
     buttonTitle = title;

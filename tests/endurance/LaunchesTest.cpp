@@ -53,7 +53,7 @@ class LaunchesTest : public testing::Test {
     std::filesystem::create_directories(folder_.file("bin"));
     std::filesystem::copy_file(TEST_CHILDREN "/recording-viewer", folder_.file("bin/vexlink"));
   }
-  ~LaunchesTest() override { control_.terminateProc(); }
+  void TearDown() override { control_.terminateProc(); }
 
   bool viewerRuns() const {
     return ProcessHelpers::getRunningProcess("vexlink", *table_) != noProcess;

@@ -32,7 +32,7 @@ const Services& services() {
 namespace {
 
 FakeProcessTable& processesAtQuit() {
-  return static_cast<FakeProcessTable&>(*services().processes);
+  return dynamic_cast<FakeProcessTable&>(*services().processes);
 }
 
 std::vector<std::string> delegateMessages() {

@@ -15,7 +15,7 @@ class EditTest : public testing::Test {
  protected:
   void SetUp() override { clearStage(); }
 
-  CGColorRef ipColour(ViewController* controller) {
+  static CGColorRef ipColour(ViewController* controller) {
     return [[[controller ipAddress] layer] backgroundColor];
   }
 };

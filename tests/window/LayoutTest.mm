@@ -14,7 +14,7 @@ class LayoutTest : public testing::Test {
  protected:
   void SetUp() override { clearStage(); }
 
-  std::string placeholderOf(NSTextField* field) {
+  static std::string placeholderOf(NSTextField* field) {
     return [[static_cast<NSTextFieldCell*>([field cell]) placeholderString] UTF8String];
   }
 

@@ -39,7 +39,7 @@ class LifetimeTest : public testing::Test {
     endedOnMainThread = false;
   }
 
-  WatchedController* loaded() {
+  static WatchedController* loaded() {
     @autoreleasepool {
       WatchedController* controller = [[WatchedController alloc] initWithNibName:@"ViewController"
                                                                           bundle:nil];

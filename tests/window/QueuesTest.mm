@@ -15,7 +15,7 @@ namespace {
 
 class QueuesTest : public testing::Test {
  protected:
-  ~QueuesTest() override { [operations_ release]; }
+  void TearDown() override { [operations_ release]; }
 
   NSOperationQueue* operations_ = [[NSOperationQueue alloc] init];
   std::unique_ptr<WorkQueue> background_ = makeWorkQueue(operations_);

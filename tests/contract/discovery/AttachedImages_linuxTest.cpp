@@ -116,7 +116,7 @@ class AttachedImagesLinuxTest : public testing::Test {
 
   /// What the tool lists for the image: "device" or "device=mount point" in lines, sorted as
   /// listed.
-  std::string entities(const std::string& image) const {
+  static std::string entities(const std::string& image) {
     const ToolRun run = runTool("info -plist");
     const PropertyListReading reading = readPropertyList(run.output);
     if (!reading.value) return run.output;

@@ -82,9 +82,7 @@ class AttachedLoop {
 class MountedFolder {
  public:
   MountedFolder(const std::string& device, const std::string& type, const std::string& folder)
-      : folder_(folder) {
-    std::filesystem::create_directories(folder);
-    mounted_ = mount(device.c_str(), folder.c_str(), type.c_str(), MS_RDONLY, nullptr) == 0;
+      : folder_(folder), mounted_(mountAt(device, type, folder)) {
     if (!mounted_) error_ = std::strerror(errno);
   }
   MountedFolder(const MountedFolder&) = delete;
@@ -97,8 +95,14 @@ class MountedFolder {
   const std::string& error() const { return error_; }
 
  private:
+  static bool mountAt(const std::string& device, const std::string& type,
+                      const std::string& folder) {
+    std::filesystem::create_directories(folder);
+    return mount(device.c_str(), folder.c_str(), type.c_str(), MS_RDONLY, nullptr) == 0;
+  }
+
   std::string folder_;
-  bool mounted_ = false;
+  bool mounted_;
   std::string error_;
 };
 

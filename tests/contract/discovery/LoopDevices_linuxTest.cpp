@@ -28,8 +28,9 @@ class LoopDevicesTest : public testing::Test {
     std::string text;
     for (const LoopDevice& loop : readLoopDevices(folder_.path())) {
       text += loop.imagePath + ":";
-      for (const BlockDevice& device : loop.devices)
+      for (const BlockDevice& device : loop.devices) {
         text += " " + device.name + "=" + device.number;
+      }
       text += "\n";
     }
     return text;

@@ -174,24 +174,17 @@ std::string listing(int images) {
          {"autodiskmount", "image-encrypted", "removable", "writeable", "other"}) {
       list += "\n\t\t\t<key>"s + key + "</key>\n\t\t\t<true/>";
     }
-    list +=
-        "<key>blockcount</key><integer>204800</integer><key>icon-path</key><string>/System/"
-        "Library/PrivateFrameworks/DiskImages.framework/Resources/CDiskImage.icns</string>"
-        "<key>image-path</key><string>/Users/me/Downloads/Launcher-" +
-        number +
-        ".dmg</string><key>system-entities</key><array>"
-        "<dict><key>content-hint</key><string>GUID_partition_scheme</string>"
-        "<key>dev-entry</key><string>/dev/disk" +
-        number +
-        "</string></dict>"
-        "<dict><key>content-hint</key><string>Apple_HFS</string>"
-        "<key>dev-entry</key><string>/dev/disk" +
-        number +
-        "s1</string>"
-        "<key>mount-point</key><string>/Volumes/Launcher " +
-        number +
-        "</string></dict>"
-        "</array></dict>";
+    list += R"(<key>blockcount</key><integer>204800</integer>
+      <key>icon-path</key>
+      <string>/System/Library/PrivateFrameworks/DiskImages.framework/Resources/CDiskImage.icns</string>
+      <key>image-path</key><string>/Users/me/Downloads/Launcher-)";
+    list += number + R"(.dmg</string><key>system-entities</key><array>
+      <dict><key>content-hint</key><string>GUID_partition_scheme</string>
+      <key>dev-entry</key><string>/dev/disk)";
+    list += number + R"(</string></dict><dict><key>content-hint</key><string>Apple_HFS</string>
+      <key>dev-entry</key><string>/dev/disk)";
+    list += number + R"(s1</string><key>mount-point</key><string>/Volumes/Launcher )";
+    list += number + "</string></dict></array></dict>";
   }
   return list + "</array></dict></plist>";
 }
@@ -208,7 +201,8 @@ TEST(PropertyListLinuxTest, SixteenMegabytesAreRead) {
   const std::string list = "<array/>";
   EXPECT_EQ(errorOf(list + std::string(kMost - list.size(), ' ')), "");
   EXPECT_EQ(errorOf(list + std::string(kMost - list.size() + 1, ' ')), "more than 16 MB");
-  EXPECT_EQ(errorOf(std::string(100'000'000, ' ')), "more than 16 MB");
+  constexpr std::size_t kFarMore = 100'000'000;
+  EXPECT_EQ(errorOf(std::string(kFarMore, ' ')), "more than 16 MB");
 }
 
 TEST(PropertyListLinuxTest, FourMegabytesAreConverted) {

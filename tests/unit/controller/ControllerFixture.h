@@ -51,7 +51,7 @@ class OneOrigin : public OriginAttribute {
 /// A run of the listing tool that is over as soon as it is started.
 class PromptListingTool : public ListingTool {
  public:
-  explicit PromptListingTool(const std::string& output) : output_(output) {}
+  explicit PromptListingTool(std::string output) : output_(std::move(output)) {}
 
   void setOutputHandler(OutputHandler handler) override { onOutput_ = std::move(handler); }
   void setExitHandler(ExitHandler handler) override { onExit_ = std::move(handler); }
