@@ -12,6 +12,7 @@ SUITES = {
     "lint": lint,
     "strings": PythonSuite("tests/strings"),
     "icon": PythonSuite("tests/icon"),
+    "scripts": PythonSuite("tests/scripts"),
     "unit": GoogleTestSuite("unit-tests"),
     "contract": GoogleTestSuite("contract-tests", apart=True),
     "sanitizers": sanitizers,
@@ -23,7 +24,7 @@ SUITES = {
 }
 
 # The others drive an X display, or look from Linux at what a Mac meets by itself.
-ON_MACOS = ["strings", "icon", "unit", "contract", "window"]
+ON_MACOS = ["strings", "icon", "scripts", "unit", "contract", "window"]
 
 if platform.system() == "Darwin":
     SUITES = {name: SUITES[name] for name in ON_MACOS}
