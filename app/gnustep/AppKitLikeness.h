@@ -13,6 +13,7 @@ void installCopyAndPaste();
 void installFieldEditor();
 void installFocusRing();
 void installHiding();
+void installImageFormats();
 void installLayers();
 void installMenuKeys();
 void installNoServers();

@@ -9,6 +9,7 @@ void installAppKitLikeness() {
     registerLanguages();
     registerDefaults();
     registerColours();
+    installImageFormats();
     installNoServers();
     installViewLifecycle();
     installWindowLimits();
