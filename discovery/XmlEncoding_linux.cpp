@@ -30,7 +30,9 @@ std::string fromUtf16(std::string_view bytes, ByteOrder order) {
     units.push_back(static_cast<char16_t>(order == ByteOrder::highFirst ? first << 8U | second
                                                                         : second << 8U | first));
   }
-  return utf8(units);
+  std::string text = utf8(units);
+  if (utf16(text) != units) throw UnreadableList("half a character");
+  return text;
 }
 
 std::string fromLatin1(std::string_view bytes) {

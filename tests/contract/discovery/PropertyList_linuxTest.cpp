@@ -84,6 +84,12 @@ TEST(PropertyListLinuxTest, EntityBombsAreRefused) {
   EXPECT_EQ(describedReading(bomb + "]><string>&e29;</string>"), "error");
 }
 
+TEST(PropertyListLinuxTest, LoneSurrogatesAreRefused) {
+  EXPECT_EQ(errorOf("\xFE\xFF"s + "\0<\0a\0r\0r\0a\0y\0/\0>"s), "");
+  EXPECT_EQ(errorOf("\xFE\xFF"s + "\0<\0a\0r\0r\0a\0y\0 \xD8\x3D\0/\0>"s), "half a character");
+  EXPECT_EQ(errorOf("\xFE\xFF"s + "\0<\0a\0r\0r\0a\0y\0 \xDC\x3D\0/\0>"s), "half a character");
+}
+
 TEST(PropertyListLinuxTest, Utf16NeedsNoByteOrderMark) {
   EXPECT_EQ(describedReading("<\0a\0r\0r\0a\0y\0/\0>\0"s), "[]");
   EXPECT_EQ(describedReading("\0<\0a\0r\0r\0a\0y\0/\0>"s), "[]");
