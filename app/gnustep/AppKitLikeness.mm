@@ -13,16 +13,22 @@ void installAppKitLikeness() {
     installNoServers();
     installViewLifecycle();
     installWindowLimits();
+    installScaling();
     installWindowLevel();
+    installWindowClass();
     installLayers();
     installFocusRing();
+    installTextInset();
     installPlaceholders();
     installFieldEditor();
+    installUndo();
+    installCommandKeys();
     installCopyAndPaste();
     installAlerts();
+    installAboutPanel();
     installHiding();
     installButtonTitles();
-    installMenuKeys();
+    installMenus();
     installTheme();
   }
 }
