@@ -5,8 +5,12 @@
 #include <utility>
 
 /// An item of work as an operation. This runtime knows no blocks.
+///
+/// It runs on a thread of its own: the toolkit's pool lets an operation wait behind a busy one,
+/// though the queue is not serial.
 @interface WorkOperation : NSOperation {
   std::function<void()> _item;
+  BOOL _hasThread;
 }
 + (instancetype)withItem:(std::function<void()>)item;
 @end
@@ -17,6 +21,21 @@
   WorkOperation* operation = [[[self alloc] init] autorelease];
   operation->_item = std::move(item);
   return operation;
+}
+
+/// A queue starts an operation that says so where it stands, any other one on its pool. The base
+/// class refuses to run one that says so still.
+- (BOOL)isConcurrent {
+  return !_hasThread;
+}
+
+- (void)start {
+  _hasThread = YES;
+  [NSThread detachNewThreadSelector:@selector(runOnThread) toTarget:self withObject:nil];
+}
+
+- (void)runOnThread {
+  [super start];
 }
 
 /// Lets go of what the item holds as soon as it has run, on the same thread.

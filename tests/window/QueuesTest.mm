@@ -41,6 +41,21 @@ TEST_F(QueuesTest, BackgroundItemsMayRunAtTheSameTime) {
   EXPECT_EQ(arrived, 2);
 }
 
+TEST_F(QueuesTest, ABackgroundItemDoesNotWaitBehindABusyOne) {
+  std::atomic<bool> busy = false;
+  std::atomic<bool> released = false;
+  std::atomic<bool> ran = false;
+  background_->add([&] {
+    busy = true;
+    while (!released) std::this_thread::yield();
+  });
+  EXPECT_TRUE(eventually([&] { return busy.load(); }));
+  background_->add([&] { ran = true; });
+  EXPECT_TRUE(eventually([&] { return ran.load(); }));
+  released = true;
+  [operations_ waitUntilAllOperationsAreFinished];
+}
+
 TEST_F(QueuesTest, AnItemIsLetGoOfWhereItRan) {
   auto held = std::make_shared<int>();
   const std::weak_ptr<int> watched = held;
