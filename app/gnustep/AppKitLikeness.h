@@ -7,25 +7,20 @@ namespace launcher {
 void installAppKitLikeness();
 
 // Its parts, each in the file of its name.
-void installAboutPanel();
 void installAlerts();
 void installButtonTitles();
-void installCommandKeys();
 void installCopyAndPaste();
+void installEventQueue();
 void installFieldEditor();
 void installFocusRing();
 void installHiding();
 void installImageFormats();
 void installLayers();
-void installMenus();
+void installMenuKeys();
 void installNoServers();
 void installPlaceholders();
-void installScaling();
-void installTextInset();
 void installTheme();
-void installUndo();
 void installViewLifecycle();
-void installWindowClass();
 void installWindowLevel();
 void installWindowLimits();
 void registerColours();

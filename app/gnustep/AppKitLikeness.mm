@@ -11,24 +11,19 @@ void installAppKitLikeness() {
     registerColours();
     installImageFormats();
     installNoServers();
+    installEventQueue();
     installViewLifecycle();
     installWindowLimits();
-    installScaling();
     installWindowLevel();
-    installWindowClass();
     installLayers();
     installFocusRing();
-    installTextInset();
     installPlaceholders();
     installFieldEditor();
-    installUndo();
-    installCommandKeys();
     installCopyAndPaste();
     installAlerts();
-    installAboutPanel();
     installHiding();
     installButtonTitles();
-    installMenus();
+    installMenuKeys();
     installTheme();
   }
 }
