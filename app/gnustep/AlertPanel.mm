@@ -5,19 +5,6 @@
 
 #import "app/gnustep/XWindows.h"
 
-/// An icon that is made smaller without losing lines.
-@interface IconView : NSImageView
-@end
-
-@implementation IconView
-
-- (void)drawRect:(NSRect)rect {
-  [[NSGraphicsContext currentContext] setImageInterpolation:NSImageInterpolationHigh];
-  [super drawRect:rect];
-}
-
-@end
-
 namespace {
 
 constexpr CGFloat margin = 20;
@@ -46,7 +33,7 @@ NSTextField* label(NSString* text, NSFont* font) {
 
 NSImageView* iconView(NSImage* icon) {
   NSImageView* view =
-      [[[IconView alloc] initWithFrame:NSMakeRect(0, 0, iconSize, iconSize)] autorelease];
+      [[[NSImageView alloc] initWithFrame:NSMakeRect(0, 0, iconSize, iconSize)] autorelease];
   [view setImage:icon != nil ? icon : [NSApp applicationIconImage]];
   [view setImageScaling:NSImageScaleProportionallyUpOrDown];
   return view;
@@ -62,8 +49,9 @@ NSImageView* iconView(NSImage* icon) {
   const CGFloat textHeight = [message frame].size.height + 6 + [informative frame].size.height;
   const CGFloat height = margin + std::max(textHeight, iconSize) + margin + buttonHeight + margin;
 
+  // A window that does not say that it can be closed is closed by cutting its program off.
   self = [super initWithContentRect:NSMakeRect(0, 0, width, height)
-                          styleMask:NSTitledWindowMask
+                          styleMask:NSTitledWindowMask | NSClosableWindowMask
                             backing:NSBackingStoreBuffered
                               defer:NO];
   if (self == nil) return nil;
@@ -122,15 +110,11 @@ NSImageView* iconView(NSImage* icon) {
                                    std::round(NSMidY(around) - size.height / 2))];
 }
 
-- (void)orderWindow:(NSWindowOrderingMode)place relativeTo:(NSInteger)other {
-  if (place != NSWindowOut && _owner != nil) {
+- (NSInteger)runModal {
+  if (_owner != nil) {
     launcher::setTransient(launcher::xDisplay(self), launcher::xWindow(self),
                            launcher::xWindow(_owner));
   }
-  [super orderWindow:place relativeTo:other];
-}
-
-- (NSInteger)runModal {
   const NSInteger pressed = [NSApp runModalForWindow:self];
   [self orderOut:nil];
   return pressed;

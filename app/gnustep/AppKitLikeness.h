@@ -10,6 +10,7 @@ void installAppKitLikeness();
 void installAlerts();
 void installButtonTitles();
 void installCopyAndPaste();
+void installDisplayLoss();
 void installEventQueue();
 void installFieldEditor();
 void installFocusRing();

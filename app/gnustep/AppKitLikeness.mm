@@ -11,6 +11,7 @@ void installAppKitLikeness() {
     registerColours();
     installImageFormats();
     installNoServers();
+    installDisplayLoss();
     installEventQueue();
     installViewLifecycle();
     installWindowLimits();

@@ -4,8 +4,6 @@
 #import "app/gnustep/Methods.h"
 #import "app/gnustep/Theme.h"
 
-#include <cmath>
-
 @implementation LauncherTheme (Menus)
 
 - (CGFloat)menuItemHeight {
@@ -24,26 +22,8 @@
   return [NSColor whiteColor];
 }
 
-/// In the bar the toolkit puts all of the padding behind the title.
-- (void)drawTitleForMenuItemCell:(NSMenuItemCell*)cell
-                       withFrame:(NSRect)frame
-                          inView:(NSView*)view
-                           state:(GSThemeControlState)state
-                    isHorizontal:(BOOL)horizontal {
-  const CGFloat before = horizontal ? [[cell menuView] horizontalEdgePadding] : 0;
-  [super drawTitleForMenuItemCell:cell
-                        withFrame:NSOffsetRect(frame, before, 0)
-                           inView:view
-                            state:state
-                     isHorizontal:horizontal];
-}
-
-- (void)drawSeparatorItemForMenuItemCell:(NSMenuItemCell*)cell
-                               withFrame:(NSRect)frame
-                                  inView:(NSView*)view
-                            isHorizontal:(BOOL)horizontal {
-  [[NSColor controlShadowColor] set];
-  NSRectFill(NSMakeRect(NSMinX(frame), std::floor(NSMidY(frame)), frame.size.width, 1));
+- (NSColor*)menuSeparatorColor {
+  return [NSColor controlShadowColor];
 }
 
 - (CGFloat)menuSubmenuVerticalOverlap {
@@ -78,34 +58,16 @@
 
 @implementation NSMenuItemCell (ThemeExchange)
 
-/// A capital letter stands for its key with Shift.
 - (NSString*)launcher_keyEquivalentString {
   NSString* key = [[self menuItem] keyEquivalent];
-  if ([key length] == 0) return @"";
-  const BOOL shifted = ![key isEqualToString:[key lowercaseString]];
-  return [(shifted ? @"Ctrl+Shift+" : @"Ctrl+") stringByAppendingString:[key uppercaseString]];
-}
-
-@end
-
-@interface NSMenuView (ThemeExchange)
-@end
-
-@implementation NSMenuView (ThemeExchange)
-
-- (instancetype)launcher_initWithFrame:(NSRect)frame {
-  self = [self launcher_initWithFrame:frame];
-  [self setHorizontalEdgePadding:10];
-  return self;
+  return [key length] > 0 ? [@"Ctrl+" stringByAppendingString:[key uppercaseString]] : @"";
 }
 
 @end
 
 namespace launcher {
 
-void installMenus() {
-  exchangeMethods([NSMenuView class], @selector(initWithFrame:),
-                  @selector(launcher_initWithFrame:));
+void installMenuKeys() {
   exchangeMethods([NSMenuItemCell class], @selector(_keyEquivalentString),
                   @selector(launcher_keyEquivalentString));
 }

@@ -77,13 +77,14 @@ class LauncherTest(unittest.TestCase):
             self.skipTest(f"images cannot be attached here: {reason}")
         return pathlib.Path(volume) / APPLICATION, address
 
-    def start(self, program=None, *, folder=None, language="en", locale="C.UTF-8"):
+    def start(self, program=None, *, folder=None, language="en", locale="C.UTF-8",
+              environment=None):
         """Starts the launcher and waits for its window."""
         self.launcher = subprocess.Popen(
             [str(program or self.application / PROGRAM)], cwd=folder, stdin=subprocess.DEVNULL,
             env={**os.environ, "HOME": str(self.folder), "LC_ALL": locale, "LANGUAGE": language,
-                 "RECORD": str(self.record.file)})
-        self.addCleanup(self.end)
+                 "RECORD": str(self.record.file), **(environment or {})})
+        self.addCleanup(self.end, self.launcher)
         self.window = LauncherWindow.shown()
         self.disabled_button = self.settled("launchButton")
 
@@ -100,6 +101,11 @@ class LauncherTest(unittest.TestCase):
         self.window.click_on(control)
         self.window.press("ctrl+a")
         self.window.type(text)
+
+    def enter_valid(self):
+        """Types a location, and an address so that nothing is looked up."""
+        self.enter("vorxLocation", "https://server.example")
+        self.enter("ipAddress", "10.0.0.5")
 
     def press_launch(self):
         self.window.click_on("launchButton")
@@ -171,9 +177,16 @@ class LauncherTest(unittest.TestCase):
 
     # What is left.
 
-    def end(self):
-        self.launcher.terminate()
-        self.launcher.wait()
+    @staticmethod
+    def end(launcher):
+        """Asks the launcher to quit; one that does not is ended, and that is a failure."""
+        launcher.terminate()
+        try:
+            launcher.wait(timeout=60)
+        except subprocess.TimeoutExpired:
+            launcher.kill()
+            launcher.wait()
+            raise
 
     def assert_nothing_left(self):
         try:

@@ -1,7 +1,9 @@
 """The launcher finds the server that its disk image was downloaded from."""
 
+import subprocess
+
 import doubles
-from case import READY, LauncherTest
+from case import GREEN, READY, LauncherTest
 
 
 class DiscoveryTest(LauncherTest):
@@ -28,3 +30,16 @@ class DiscoveryTest(LauncherTest):
         application, _ = self.mounted_application()
         self.start("VorxLauncher.app/VorxLauncher", folder=application.parent)
         self.wait_for_location()
+
+    def test_the_image_is_unmounted_under_the_launcher(self):
+        application, _ = self.mounted_application()
+        self.start(application / "VorxLauncher")
+        self.wait_for_location()
+        subprocess.run(["umount", "--lazy", application.parent], check=True)
+
+        self.enter("ipAddress", "10.0.0.5")
+        self.wait_for_ip_colour(GREEN)
+        self.press_launch()
+        self.wait_for_status(READY)
+        self.assertEqual(doubles.running("vexlink"), [])
+        self.quit()

@@ -8,7 +8,9 @@ import subprocess
 
 from stage.waiting import wait_until
 
-DOUBLE = pathlib.Path(__file__).resolve().parents[2] / "build/tests/e2e/e2e-double"
+BUILT = pathlib.Path(__file__).resolve().parents[2] / "build/tests/e2e"
+DOUBLE = BUILT / "e2e-double"
+SLOW_RESOLVER = BUILT / "libslow-resolver.so"
 
 
 class Record:
@@ -26,6 +28,30 @@ class Record:
     def wait_for(self, process, event):
         wait_until(lambda: (process, event) in self.events(), f"{process} records {event}")
 
+    def wait_for_event(self, event):
+        """The first process that records an event."""
+        def those():
+            return [process for process, recorded in self.events() if recorded == event]
+
+        return wait_until(those, f"somebody records {event}")[0]
+
+
+class Gate:
+    """A FIFO at which a double waits until it is opened."""
+
+    def __init__(self, file):
+        self.file = file
+        os.mkfifo(file)
+
+    def open(self):
+        """Lets the one that waits there go on; waits for it to come."""
+        def somebody_waits():
+            with contextlib.suppress(OSError):
+                os.close(os.open(self.file, os.O_WRONLY | os.O_NONBLOCK))
+                return True
+
+        wait_until(somebody_waits, f"somebody waits at {self.file}")
+
 
 def running(name):
     """The processes with a command name, by rising number; zombies are none."""
@@ -39,6 +65,12 @@ def running(name):
         if command == name and not state.startswith("Z"):
             found.append(int(process))
     return sorted(found)
+
+
+def children_of(process):
+    """The children that a process has, zombies included."""
+    threads = pathlib.Path(f"/proc/{process}/task").glob("*/children")
+    return [int(child) for children in threads for child in children.read_text().split()]
 
 
 def command_of(process):

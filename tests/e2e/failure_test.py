@@ -5,12 +5,14 @@ from case import NO_URL, READY, LauncherTest
 
 
 class FailureTest(LauncherTest):
-    def test_an_alert_tells_and_an_edit_brings_the_button_back(self):
+    def fail_to_look_up(self):
         self.start()
         self.enter("vorxLocation", "https://nohost.invalid")
         self.wait_for_status(READY)
         self.press_launch()
 
+    def test_an_alert_tells_and_an_edit_brings_the_button_back(self):
+        self.fail_to_look_up()
         alert = reading.read(self.wait_for_alert().settled_picture())
         self.assertIn("Failed to look up IP address for", alert)
         self.assertIn("nohost.invalid", alert.replace(" ", ""))
@@ -23,3 +25,15 @@ class FailureTest(LauncherTest):
         self.assert_button_disabled()
         self.enter("vorxLocation", "https://server.example")
         self.wait_for_status(READY)
+
+    def test_the_launcher_quits_while_the_alert_is_up(self):
+        self.fail_to_look_up()
+        self.wait_for_alert()
+        self.launcher.terminate()
+        self.assertEqual(self.launcher.wait(timeout=60), 0)
+
+    def test_closing_the_alert_leaves_the_launcher(self):
+        self.fail_to_look_up()
+        self.wait_for_alert().close()
+        self.wait_for_no_alert()
+        self.quit()

@@ -37,8 +37,7 @@ class LaunchTest(LauncherTest):
     def test_a_missing_viewer_leaves_the_launcher_as_it_was(self):
         self.viewer.unlink()
         self.start()
-        self.enter("vorxLocation", "https://server.example")
-        self.enter("ipAddress", "10.0.0.5")
+        self.enter_valid()
         self.wait_for_status(READY)
         enabled_button = self.settled("launchButton")
         self.press_launch()
@@ -53,8 +52,7 @@ class LaunchTest(LauncherTest):
         place = self.folder / "Ordner mit Lücken und 日本語"
         shutil.copytree(self.application, place / "VorxLauncher.app")
         self.start(place / "VorxLauncher.app/VorxLauncher")
-        self.enter("vorxLocation", "https://server.example")
-        self.enter("ipAddress", "10.0.0.5")
+        self.enter_valid()
         self.wait_for_status(READY)
         self.press_launch()
         self.assertEqual(

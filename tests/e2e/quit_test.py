@@ -12,8 +12,7 @@ class QuitTest(LauncherTest):
     def test_the_viewer_and_the_first_companion_are_asked_to_end(self):
         first, second = sorted([self.start_double("vexwatch"), self.start_double("vexwatch")])
         self.start()
-        self.enter("vorxLocation", "https://server.example")
-        self.enter("ipAddress", "10.0.0.5")
+        self.enter_valid()
         self.wait_for_status(READY)
         self.press_launch()
         viewer = self.wait_for_viewer()
@@ -31,8 +30,7 @@ class QuitTest(LauncherTest):
 
     def test_a_viewer_that_has_ended_is_reaped(self):
         self.start()
-        self.enter("vorxLocation", "https://server.example")
-        self.enter("ipAddress", "10.0.0.5")
+        self.enter_valid()
         self.wait_for_status(READY)
         self.press_launch()
         viewer = self.wait_for_viewer()

@@ -9,8 +9,7 @@ from case import READY, RUNNING_READY, LauncherTest
 class RelaunchTest(LauncherTest):
     def start_with_location(self):
         self.start()
-        self.enter("vorxLocation", "https://server.example")
-        self.enter("ipAddress", "10.0.0.5")
+        self.enter_valid()
 
     def test_the_viewer_of_this_launcher_ends_first(self):
         self.start_with_location()

@@ -12,7 +12,6 @@ SUITES = {
     "lint": lint,
     "strings": PythonSuite("tests/strings"),
     "icon": PythonSuite("tests/icon"),
-    "bench": PythonSuite("tests/bench"),
     "scripts": PythonSuite("tests/scripts"),
     "unit": GoogleTestSuite("unit-tests"),
     "contract": GoogleTestSuite("contract-tests", apart=True),
@@ -20,7 +19,7 @@ SUITES = {
     "fuzz": fuzz,
     "endurance": GoogleTestSuite("endurance-tests", apart=True),
     "window": GoogleTestSuite("window-tests", apart=True, display=True),
-    "e2e": PythonSuite("tests/e2e", targets=["application", "e2e-double"], apart=True, display=True),
+    "e2e": PythonSuite("tests/e2e", targets=["application", "e2e-doubles"], apart=True, display=True),
     "macos": PythonSuite("tests/macos"),
 }
 
