@@ -5,6 +5,19 @@
 
 #import "app/gnustep/XWindows.h"
 
+/// An icon that is made smaller without losing lines.
+@interface IconView : NSImageView
+@end
+
+@implementation IconView
+
+- (void)drawRect:(NSRect)rect {
+  [[NSGraphicsContext currentContext] setImageInterpolation:NSImageInterpolationHigh];
+  [super drawRect:rect];
+}
+
+@end
+
 namespace {
 
 constexpr CGFloat margin = 20;
@@ -33,7 +46,7 @@ NSTextField* label(NSString* text, NSFont* font) {
 
 NSImageView* iconView(NSImage* icon) {
   NSImageView* view =
-      [[[NSImageView alloc] initWithFrame:NSMakeRect(0, 0, iconSize, iconSize)] autorelease];
+      [[[IconView alloc] initWithFrame:NSMakeRect(0, 0, iconSize, iconSize)] autorelease];
   [view setImage:icon != nil ? icon : [NSApp applicationIconImage]];
   [view setImageScaling:NSImageScaleProportionallyUpOrDown];
   return view;
@@ -110,11 +123,15 @@ NSImageView* iconView(NSImage* icon) {
                                    std::round(NSMidY(around) - size.height / 2))];
 }
 
-- (NSInteger)runModal {
-  if (_owner != nil) {
+- (void)orderWindow:(NSWindowOrderingMode)place relativeTo:(NSInteger)other {
+  if (place != NSWindowOut && _owner != nil) {
     launcher::setTransient(launcher::xDisplay(self), launcher::xWindow(self),
                            launcher::xWindow(_owner));
   }
+  [super orderWindow:place relativeTo:other];
+}
+
+- (NSInteger)runModal {
   const NSInteger pressed = [NSApp runModalForWindow:self];
   [self orderOut:nil];
   return pressed;

@@ -7,8 +7,10 @@ namespace launcher {
 void installAppKitLikeness();
 
 // Its parts, each in the file of its name.
+void installAboutPanel();
 void installAlerts();
 void installButtonTitles();
+void installCommandKeys();
 void installCopyAndPaste();
 void installDisplayLoss();
 void installEventQueue();
@@ -17,11 +19,15 @@ void installFocusRing();
 void installHiding();
 void installImageFormats();
 void installLayers();
-void installMenuKeys();
+void installMenus();
 void installNoServers();
 void installPlaceholders();
+void installScaling();
+void installTextInset();
 void installTheme();
+void installUndo();
 void installViewLifecycle();
+void installWindowClass();
 void installWindowLevel();
 void installWindowLimits();
 void registerColours();

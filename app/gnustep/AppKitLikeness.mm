@@ -15,16 +15,22 @@ void installAppKitLikeness() {
     installEventQueue();
     installViewLifecycle();
     installWindowLimits();
+    installScaling();
     installWindowLevel();
+    installWindowClass();
     installLayers();
     installFocusRing();
+    installTextInset();
     installPlaceholders();
     installFieldEditor();
+    installUndo();
+    installCommandKeys();
     installCopyAndPaste();
     installAlerts();
+    installAboutPanel();
     installHiding();
     installButtonTitles();
-    installMenuKeys();
+    installMenus();
     installTheme();
   }
 }

@@ -4,6 +4,8 @@
 #import "app/gnustep/Methods.h"
 #import "app/gnustep/Theme.h"
 
+#include <cmath>
+
 @implementation LauncherTheme (Menus)
 
 - (CGFloat)menuItemHeight {
@@ -22,8 +24,26 @@
   return [NSColor whiteColor];
 }
 
-- (NSColor*)menuSeparatorColor {
-  return [NSColor controlShadowColor];
+/// In the bar the toolkit puts all of the padding behind the title.
+- (void)drawTitleForMenuItemCell:(NSMenuItemCell*)cell
+                       withFrame:(NSRect)frame
+                          inView:(NSView*)view
+                           state:(GSThemeControlState)state
+                    isHorizontal:(BOOL)horizontal {
+  const CGFloat before = horizontal ? [[cell menuView] horizontalEdgePadding] : 0;
+  [super drawTitleForMenuItemCell:cell
+                        withFrame:NSOffsetRect(frame, before, 0)
+                           inView:view
+                            state:state
+                     isHorizontal:horizontal];
+}
+
+- (void)drawSeparatorItemForMenuItemCell:(NSMenuItemCell*)cell
+                               withFrame:(NSRect)frame
+                                  inView:(NSView*)view
+                            isHorizontal:(BOOL)horizontal {
+  [[NSColor controlShadowColor] set];
+  NSRectFill(NSMakeRect(NSMinX(frame), std::floor(NSMidY(frame)), frame.size.width, 1));
 }
 
 - (CGFloat)menuSubmenuVerticalOverlap {
@@ -58,16 +78,34 @@
 
 @implementation NSMenuItemCell (ThemeExchange)
 
+/// A capital letter stands for its key with Shift.
 - (NSString*)launcher_keyEquivalentString {
   NSString* key = [[self menuItem] keyEquivalent];
-  return [key length] > 0 ? [@"Ctrl+" stringByAppendingString:[key uppercaseString]] : @"";
+  if ([key length] == 0) return @"";
+  const BOOL shifted = ![key isEqualToString:[key lowercaseString]];
+  return [(shifted ? @"Ctrl+Shift+" : @"Ctrl+") stringByAppendingString:[key uppercaseString]];
+}
+
+@end
+
+@interface NSMenuView (ThemeExchange)
+@end
+
+@implementation NSMenuView (ThemeExchange)
+
+- (instancetype)launcher_initWithFrame:(NSRect)frame {
+  self = [self launcher_initWithFrame:frame];
+  [self setHorizontalEdgePadding:10];
+  return self;
 }
 
 @end
 
 namespace launcher {
 
-void installMenuKeys() {
+void installMenus() {
+  exchangeMethods([NSMenuView class], @selector(initWithFrame:),
+                  @selector(launcher_initWithFrame:));
   exchangeMethods([NSMenuItemCell class], @selector(_keyEquivalentString),
                   @selector(launcher_keyEquivalentString));
 }

@@ -1,5 +1,6 @@
 #include "app/gnustep/WindowHints.h"
 
+#include <X11/Xatom.h>
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
 
@@ -29,6 +30,18 @@ void keepAbove(void* toolkitDisplay, XWindow window) {
 void setTransient(void* toolkitDisplay, XWindow dialogue, XWindow owner) {
   auto* display = static_cast<Display*>(toolkitDisplay);
   XSetTransientForHint(display, dialogue, owner);
+
+  const Atom type = XInternAtom(display, "_NET_WM_WINDOW_TYPE", False);
+  const Atom isDialogue = XInternAtom(display, "_NET_WM_WINDOW_TYPE_DIALOG", False);
+  constexpr int bits = 32;
+  XChangeProperty(display, dialogue, type, XA_ATOM, bits, PropModeReplace,
+                  reinterpret_cast<const unsigned char*>(&isDialogue), 1);
+}
+
+void setClass(void* toolkitDisplay, XWindow window, std::string name) {
+  auto* display = static_cast<Display*>(toolkitDisplay);
+  XClassHint hint{name.data(), name.data()};
+  XSetClassHint(display, window, &hint);
 }
 
 }  // namespace launcher

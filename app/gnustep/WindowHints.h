@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 /// What window managers are told of a window, in the manner that they agree on. `display` is the
 /// toolkit's X display, windows are X windows.
 namespace launcher {
@@ -12,5 +14,8 @@ void keepAbove(void* display, XWindow window);
 /// Ties a dialogue to the window that it belongs to, above which it then stays. Before it is
 /// mapped.
 void setTransient(void* display, XWindow dialogue, XWindow owner);
+
+/// Names a window and the class of windows that it belongs to. Before it is mapped.
+void setClass(void* display, XWindow window, std::string name);
 
 }  // namespace launcher

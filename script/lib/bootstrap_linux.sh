@@ -1,11 +1,12 @@
 # Sourced by script/bootstrap: Debian's packages.
 
-# The packages of the named groups, one a line; of all groups where none is named.
+# The packages of the named groups, one a line; where none is named, of all groups but that of the
+# benchmarks, which install many programs to be measured against.
 packages() {
   awk -v wanted=" $* " '
     /^\[/ { group = substr($1, 2, length($1) - 2); next }
     /^#/ || NF == 0 { next }
-    wanted == "  " || index(wanted, " " group " ") { print $1 }
+    wanted == "  " && group != "bench" || index(wanted, " " group " ") { print $1 }
   ' script/lib/packages
 }
 

@@ -1,10 +1,33 @@
-"""The window among other windows."""
+"""The window among other windows, on a desktop."""
+
+import subprocess
 
 from case import LauncherTest
 from stage.waiting import wait_until
 
 
 class WindowTest(LauncherTest):
+    def property(self, name):
+        return subprocess.run(["xprop", "-id", self.window.identifier, name], check=True, text=True,
+                              stdout=subprocess.PIPE).stdout
+
     def test_it_stays_above_ordinary_windows(self):
         self.start()
         wait_until(lambda: "_NET_WM_STATE_ABOVE" in self.window.states(), "the window is kept above")
+
+    def test_window_lists_show_its_name_and_icon(self):
+        self.start()
+        self.assertIn('"VorxLauncher", "VorxLauncher"', self.property("WM_CLASS"))
+        self.assertIn('"Vorx Launcher"', self.property("_NET_WM_NAME"))
+        self.assertIn("Icon (128 x 128)", self.property("_NET_WM_ICON"))
+
+    def test_it_is_as_large_as_a_dense_screen_needs(self):
+        self.start()
+        width, height = self.window.geometry()[2:]
+        self.quit()
+
+        self.addCleanup(subprocess.run, ["xprop", "-root", "-remove", "RESOURCE_MANAGER"], check=True)
+        subprocess.run(["xprop", "-root", "-format", "RESOURCE_MANAGER", "8s",
+                        "-set", "RESOURCE_MANAGER", "Xft.dpi:\t192\n"], check=True)
+        self.start()
+        self.assertEqual(self.window.geometry()[2:], [2 * width, 2 * height])

@@ -12,6 +12,7 @@ SUITES = {
     "lint": lint,
     "strings": PythonSuite("tests/strings"),
     "icon": PythonSuite("tests/icon"),
+    "bench": PythonSuite("tests/bench"),
     "scripts": PythonSuite("tests/scripts"),
     "unit": GoogleTestSuite("unit-tests"),
     "contract": GoogleTestSuite("contract-tests", apart=True),

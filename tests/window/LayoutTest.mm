@@ -78,8 +78,8 @@ TEST_F(LayoutTest, GrowsInWidthOnly) {
   LauncherWindowOnScreen shown;
   const NSSize content = [[shown.window() contentView] frame].size;
   const NSSize frame = [shown.window() frame].size;
-  EXPECT_EQ(content.width, 460);
-  EXPECT_EQ(content.height, 214);
+  EXPECT_EQ(content.width, 500);
+  EXPECT_EQ(content.height, 216);
   EXPECT_EQ([shown.window() minSize].height, frame.height);
   EXPECT_EQ([shown.window() maxSize].height, frame.height);
   EXPECT_LT([shown.window() minSize].width, frame.width);

@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "app/desktop/Fonts.h"
 
@@ -28,6 +30,33 @@ TEST(Fonts, AreThoseOfTheDesktop) {
     const std::string pattern = "sans-serif:lang=" + language;
     EXPECT_EQ(desktopFont(language, FontWeight::regular), toolsAnswer(pattern + ":weight=80"));
     EXPECT_EQ(desktopFont(language, FontWeight::bold), toolsAnswer(pattern + ":weight=200"));
+  }
+}
+
+TEST(Fonts, AreOfTheFamilyThatTheDesktopPrefers) {
+  ASSERT_NE(desktopFont("en", FontWeight::regular), "DejaVuSansMono");
+  EXPECT_EQ(desktopFont("en", FontWeight::regular, "DejaVu Sans Mono"), "DejaVuSansMono");
+  EXPECT_EQ(desktopFont("", FontWeight::bold, "DejaVu Sans Mono"), "DejaVuSansMono-Bold");
+}
+
+TEST(Fonts, AreOthersWhereThatFamilyIsNotThereOrLacksTheLetters) {
+  EXPECT_EQ(desktopFont("en", FontWeight::regular, "No Such Family"),
+            desktopFont("en", FontWeight::regular));
+  EXPECT_EQ(desktopFont("ja", FontWeight::regular, "DejaVu Sans Mono"),
+            desktopFont("ja", FontWeight::regular));
+}
+
+TEST(Fonts, TheFamilyIsWhatStandsBeforeTheSize) {
+  const std::vector<std::pair<std::string, std::string>> cases = {
+      {"Cantarell 11", "Cantarell"},
+      {"Noto Sans,  10.5", "Noto Sans"},
+      {"Ubuntu", "Ubuntu"},
+      {"DejaVu Sans Mono 9", "DejaVu Sans Mono"},
+      {"11", ""},
+      {"", ""},
+  };
+  for (const auto& [description, family] : cases) {
+    EXPECT_EQ(fontFamily(description), family) << description;
   }
 }
 

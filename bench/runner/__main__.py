@@ -1,0 +1,53 @@
+"""Builds what is measured, measures it apart from the machine, and shows the table; see
+script/bench."""
+
+import json
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+
+import plot
+import table
+from apart import apart
+from project import BUILD, ROOT, build
+
+DOCUMENT = ROOT / "docs/performance.md"
+NUMBERS = ROOT / "docs/performance.json"
+PICTURE = ROOT / "docs/performance-growth.svg"
+
+
+def measured(groups):
+    with tempfile.TemporaryDirectory(prefix="bench-", dir=BUILD) as place:
+        folder = pathlib.Path(place)
+        results = folder / "results.json"
+        (folder / "tmp").mkdir()
+        command = [sys.executable, "-B", str(ROOT / "bench/runner/measure.py"), str(results), *groups]
+        done = subprocess.run(apart(command, folder=folder / "tmp", display=True),
+                              stdin=subprocess.DEVNULL, env={**os.environ})
+        if not results.exists():
+            raise SystemExit(f"script/bench: nothing was measured (status {done.returncode})")
+        return json.loads(results.read_text())
+
+
+def write(result):
+    machine = result["machine"]
+    taken = (f"Taken on {machine['date']} on {machine['processor']}, Linux {machine['kernel']}, with a "
+             f"load of {machine['load']:.1f} from elsewhere.")
+    NUMBERS.write_text(json.dumps(result, indent=1, ensure_ascii=False) + "\n")
+    DOCUMENT.write_text(table.put_into(DOCUMENT.read_text(),
+                                       f"{taken}\n\n{table.as_markdown(result['rows'])}"))
+    PICTURE.write_text(plot.growth(list(result["growth"].items())))
+
+
+def main(groups):
+    build("application", "bench-small", "bench-stage")
+    result = measured(groups)
+    print(table.as_text(result["rows"]))
+    if not groups:
+        write(result)
+        print(f"Written to {DOCUMENT.relative_to(ROOT)} and {NUMBERS.relative_to(ROOT)}")
+
+
+main(sys.argv[1:])
