@@ -13,6 +13,7 @@ void installAppKitLikeness() {
     installNoServers();
     installDisplayLoss();
     installEventQueue();
+    installTheme();
     installViewLifecycle();
     installWindowLimits();
     installScaling();
@@ -31,7 +32,6 @@ void installAppKitLikeness() {
     installHiding();
     installButtonTitles();
     installMenus();
-    installTheme();
   }
 }
 

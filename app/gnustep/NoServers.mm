@@ -1,8 +1,10 @@
-// Without the toolkit's notification server. The toolkit would look for it before the window comes
-// up, start it where it does not answer, and leave it behind; nothing here has other programs to
-// notify.
+// Without the toolkit's servers. Before the window is painted the toolkit would look for the one
+// that hands notifications on, start it where it does not answer, and leave it behind; and it would
+// make the application one that others can send files and texts to. Nothing here has other programs
+// to notify, nor takes anything from them.
 
-#import <Foundation/Foundation.h>
+#import <AppKit/AppKit.h>
+#import <GNUstepGUI/GSServicesManager.h>
 
 #include "app/gnustep/AppKitLikeness.h"
 #include "app/gnustep/Methods.h"
@@ -21,9 +23,21 @@
 
 @end
 
+@interface GSServicesManager (ServerExchange)
+@end
+
+@implementation GSServicesManager (ServerExchange)
+
+- (void)launcher_doNotRegister {
+}
+
+@end
+
 namespace launcher {
 
 void installNoServers() {
+  exchangeMethods([GSServicesManager class], @selector(registerAsServiceProvider),
+                  @selector(launcher_doNotRegister));
   exchangeMethods([NSDistributedNotificationCenter class], @selector(_connect),
                   @selector(launcher_doNotConnect));
 }

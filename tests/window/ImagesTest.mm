@@ -1,4 +1,4 @@
-// Images come from the formats that the toolkit knows by itself.
+// Images come from the formats of the icon and of the toolkit's own ones.
 
 #import <AppKit/AppKit.h>
 #include <gtest/gtest.h>
@@ -6,10 +6,11 @@
 namespace launcher {
 namespace {
 
-TEST(ImagesTest, NoLibraryForOtherFormatsIsLoaded) {
+TEST(ImagesTest, NoOtherFormatsAreLookedFor) {
   NSArray* types = [NSImage imageUnfilteredFileTypes];
   EXPECT_TRUE([types containsObject:@"png"]) << [[types description] UTF8String];
   EXPECT_TRUE([types containsObject:@"tiff"]) << [[types description] UTF8String];
+  EXPECT_FALSE([types containsObject:@"jpeg"]) << [[types description] UTF8String];
   EXPECT_FALSE([types containsObject:@"heic"]) << [[types description] UTF8String];
 }
 
