@@ -22,6 +22,7 @@ void installLayers();
 void installMenus();
 void installNoServers();
 void installPlaceholders();
+void installQuitSignals();
 void installScaling();
 void installTextInset();
 void installTheme();

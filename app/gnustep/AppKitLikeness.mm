@@ -6,6 +6,7 @@ namespace launcher {
 
 void installAppKitLikeness() {
   @autoreleasepool {
+    installQuitSignals();
     registerLanguages();
     registerDefaults();
     registerColours();
