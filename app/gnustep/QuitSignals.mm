@@ -5,27 +5,19 @@
 
 #import <AppKit/AppKit.h>
 #include <sys/signalfd.h>
-#include <unistd.h>
 
 #include <csignal>
-#include <cstdint>
 
 #import "app/gnustep/AppKitLikeness.h"
 
-/// Quits the application once a signal can be read.
-@interface QuitSignals : NSObject <RunLoopEvents>
+/// Quits the application as soon as a signal can be read.
+@interface QuitSignals : NSObject
 @end
 
 @implementation QuitSignals
 
-- (void)receivedEvent:(void*)data
-                 type:(RunLoopEventType)type
-                extra:(void*)extra
-              forMode:(NSString*)mode {
-  signalfd_siginfo taken;
-  if (read(static_cast<int>(reinterpret_cast<std::intptr_t>(extra)), &taken, sizeof(taken)) > 0) {
-    [NSApp terminate:nil];
-  }
++ (void)signalCame:(NSNotification*)notification {
+  [NSApp terminate:nil];
 }
 
 @end
@@ -42,14 +34,14 @@ void installQuitSignals() {
   // Threads that are made later hold them back, too.
   pthread_sigmask(SIG_BLOCK, &signals, nullptr);
 
-  QuitSignals* watcher = [[QuitSignals alloc] init];  // stays for the life of the program
-  for (NSString* mode in
-       @[ NSDefaultRunLoopMode, NSModalPanelRunLoopMode, NSEventTrackingRunLoopMode ]) {
-    [[NSRunLoop currentRunLoop] addEvent:reinterpret_cast<void*>(std::intptr_t{descriptor})
-                                    type:ET_RDESC
-                                 watcher:watcher
-                                 forMode:mode];
-  }
+  static NSFileHandle* const incoming = [[NSFileHandle alloc] initWithFileDescriptor:descriptor];
+  [[NSNotificationCenter defaultCenter] addObserver:[QuitSignals class]
+                                           selector:@selector(signalCame:)
+                                               name:NSFileHandleDataAvailableNotification
+                                             object:incoming];
+  [incoming waitForDataInBackgroundAndNotifyForModes:@[
+    NSDefaultRunLoopMode, NSModalPanelRunLoopMode, NSEventTrackingRunLoopMode
+  ]];
 }
 
 }  // namespace launcher
