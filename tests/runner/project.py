@@ -35,9 +35,12 @@ def build_folder(preset=PRESET):
 
 
 def configure(preset=PRESET):
+    """Brings the description of a preset's build up to date."""
     made = build_folder(preset) / "build.ninja"
     if not made.exists() or made.stat().st_mtime < (ROOT / "CMakePresets.json").stat().st_mtime:
         run_quietly("cmake", "--preset", preset)
+    else:
+        run_quietly("cmake", "--build", "--preset", preset, "--target", "build.ninja")
 
 
 def build(*targets, preset=PRESET):
