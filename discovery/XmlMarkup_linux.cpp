@@ -41,6 +41,16 @@ std::optional<char32_t> numbered(std::string_view reference) {
   return isXmlCharacter(point) ? std::optional<char32_t>(point) : std::nullopt;
 }
 
+/// The text with every end of a line as a line feed, whichever system wrote it.
+std::string withLineFeeds(std::string_view text) {
+  std::string result;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const bool pair = text.substr(at, 2) == "\r\n";
+    if (!pair) result += text[at] == '\r' ? '\n' : text[at];
+  }
+  return result;
+}
+
 /// The text that an entity's name stands for.
 std::string_view named(std::string_view reference) {
   for (const auto& [name, text] : kEntities) {
@@ -82,11 +92,11 @@ std::string XmlMarkup::takeTextIn(const XmlTag& tag) {
   if (tag.closed) return text;
   while (!rest_.starts_with("</")) {
     if (skip("<![CDATA[")) {
-      text += takeUntil("]]>");
+      text += withLineFeeds(takeUntil("]]>"));
     } else if (skip("&")) {
       text += takeReference();
     } else {
-      text += takeCharacters();
+      text += withLineFeeds(takeCharacters());
     }
   }
   takeEnd(tag);

@@ -1,6 +1,9 @@
 // Conversions lose nothing, and ASCII, which is handled apart, gets the answer of any other text.
 #include "base/Text.h"
 
+#include <unicode/unistr.h>
+#include <unicode/unorm.h>
+
 #include <string>
 
 #include "base/PercentEncoding.h"
@@ -26,6 +29,22 @@ static void checkPrefix(const std::string& text, const std::string& prefix) {
           "two texts that begin with each other are equal");
 }
 
+static icu::UnicodeString unitsOf(const std::string& text) {
+  return icu::UnicodeString::fromUTF8(text);
+}
+
+/// The same by the library that knows all of Unicode, which replaces and compares in its own way.
+static void checkLibrary(const std::string& text, const std::string& other) {
+  const std::u16string units = utf16(text);
+  require(icu::UnicodeString(units.data(), static_cast<int>(units.size())) == unitsOf(text),
+          "UTF-16 is what the library makes of it");
+  UErrorCode error = U_ZERO_ERROR;
+  const auto a = unitsOf(text);
+  const auto b = unitsOf(other);
+  const int order = unorm_compare(a.getBuffer(), a.length(), b.getBuffer(), b.length(), 0, &error);
+  require(canonicallyEqual(text, other) == (order == 0), "the library finds the same texts equal");
+}
+
 FUZZ_TARGET(text) {
   const std::string repaired = repairedUtf8(text);
   require(isUtf8(repaired), "repaired text is well-formed");
@@ -37,4 +56,5 @@ FUZZ_TARGET(text) {
   if (isAscii(text)) checkPlain(repaired);
   const std::size_t half = text.size() / 2;
   checkPrefix(repairedUtf8(text.substr(0, half)), repairedUtf8(text.substr(half)));
+  checkLibrary(std::string(text.substr(0, half)), std::string(text.substr(half)));
 }

@@ -47,8 +47,7 @@ TEST(PropertyListLinuxTest, NothingMayFollowTheList) {
 TEST(PropertyListLinuxTest, ControlCharactersAreRefused) {
   for (char control = 0; control < ' '; ++control) {
     const bool blank = control == '\t' || control == '\n' || control == '\r';
-    const std::string text = "a"s + control + "b";
-    EXPECT_EQ(describedReading("<string>" + text + "</string>"), blank ? "'" + text + "'" : "error")
+    EXPECT_EQ(describedReading("<string>"s + control + "</string>") == "error", !blank)
         << static_cast<int>(control);
     EXPECT_EQ(describedReading("<string>&#" + std::to_string(control) + ";</string>"),
               blank ? "'"s + control + "'" : "error")
@@ -57,6 +56,28 @@ TEST(PropertyListLinuxTest, ControlCharactersAreRefused) {
         << static_cast<int>(control);
   }
   EXPECT_EQ(describedReading("<string>&#xFFFE;</string>"), "error");
+}
+
+struct LineEndCase {
+  std::string text;
+  std::string expected;
+};
+
+TEST(PropertyListLinuxTest, EveryEndOfALineIsALineFeed) {
+  const LineEndCase cases[] = {
+      {"a\nb", "a\nb"},
+      {"a\rb", "a\nb"},
+      {"a\r\nb", "a\nb"},
+      {"\r\r\n\n\r", "\n\n\n\n"},
+      {"a&#13;b", "a\rb"},
+      {"&#13;\n", "\r\n"},
+      {"<![CDATA[a\r\nb\rc]]>", "a\nb\nc"},
+      {"\r<![CDATA[\n]]>", "\n\n"},
+  };
+  for (const auto& [text, expected] : cases) {
+    EXPECT_EQ(describedReading("<string>" + text + "</string>"), "'" + expected + "'")
+        << testing::PrintToString(text);
+  }
 }
 
 TEST(PropertyListLinuxTest, KeysAndListsAreNoValues) {
