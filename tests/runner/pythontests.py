@@ -13,8 +13,9 @@ ENVIRONMENT = {"PYTHONPATH": str(ROOT / "script" / "lib"), "PYTHONDONTWRITEBYTEC
 
 
 class PythonSuite:
-    def __init__(self, folder, *, targets=(), apart=False, display=False):
+    def __init__(self, folder, *, pattern="*_test.py", targets=(), apart=False, display=False):
         self._folder = folder
+        self._pattern = pattern
         self._targets = targets
         self._apart = apart
         self._display = display
@@ -23,7 +24,8 @@ class PythonSuite:
         build(*self._targets)
         with scratch_folder() as folder:
             record = folder / "results"
-            command = [sys.executable, str(PROGRAM), str(ROOT / self._folder), str(record)]
+            command = [sys.executable, str(PROGRAM), str(ROOT / self._folder), self._pattern,
+                       str(record)]
             if self._apart:
                 status, output = execute_apart(command, folder=folder, display=self._display,
                                                environment=ENVIRONMENT)

@@ -1,4 +1,5 @@
-"""Runs the tests of a folder and writes a line on each to a file: run_python_tests.py FOLDER FILE"""
+"""Runs the tests in a folder's files of a pattern and writes a line on each to another file:
+run_python_tests.py FOLDER PATTERN FILE"""
 
 import json
 import sys
@@ -32,8 +33,8 @@ class _Recorder(unittest.TestResult):
             self.addFailure(subtest, error)
 
 
-def _main(folder, file):
-    tests = unittest.TestLoader().discover(folder, pattern="*_test.py", top_level_dir=folder)
+def _main(folder, pattern, file):
+    tests = unittest.TestLoader().discover(folder, pattern=pattern, top_level_dir=folder)
     with open(file, "w", encoding="utf-8") as record:
         tests.run(_Recorder(record))
 

@@ -8,6 +8,8 @@ import sanitizers
 from googletest import GoogleTestSuite
 from pythontests import PythonSuite
 
+E2E = {"targets": ["application", "e2e-doubles"], "apart": True, "display": True}
+
 SUITES = {
     "lint": lint,
     "strings": PythonSuite("tests/strings"),
@@ -16,13 +18,18 @@ SUITES = {
     "scripts": PythonSuite("tests/scripts"),
     "unit": GoogleTestSuite("unit-tests"),
     "contract": GoogleTestSuite("contract-tests", apart=True),
-    "sanitizers": sanitizers,
+    "sanitizers": sanitizers.LOGIC,
     "fuzz": fuzz,
     "endurance": GoogleTestSuite("endurance-tests", apart=True),
     "window": GoogleTestSuite("window-tests", apart=True, display=True),
-    "e2e": PythonSuite("tests/e2e", targets=["application", "e2e-doubles"], apart=True, display=True),
+    "e2e": PythonSuite("tests/e2e", **E2E),
     "macos": PythonSuite("tests/macos"),
+    "sanitizers-window": sanitizers.WINDOW,
+    "starts": PythonSuite("tests/e2e", pattern="starts.py", **E2E),
 }
+
+# Those that take too long for every change.
+ON_REQUEST = ["sanitizers-window", "starts"]
 
 # The others drive an X display, or look from Linux at what a Mac meets by itself.
 ON_MACOS = ["strings", "icon", "scripts", "unit", "contract", "window"]

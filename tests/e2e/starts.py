@@ -1,0 +1,75 @@
+"""Two hundred starts and quits, one after the other: what was there before is all that is there
+after. Takes minutes, so that it is a suite of its own."""
+
+import contextlib
+import os
+import pathlib
+import subprocess
+
+from case import PROGRAM, ROOT, LauncherTest
+from stage.launcher import LauncherWindow
+from stage.processes import descendants, none_left
+from stage.waiting import wait_until
+from stage.window import Window, windows_of
+
+STARTS = 200
+
+
+def files_below(folder):
+    """How many files and folders, without those of the project, which others may be building."""
+    count = 0
+    for place, folders, files in os.walk(folder):
+        if pathlib.Path(place) == ROOT:
+            folders.clear()
+        else:
+            count += len(folders) + len(files)
+    return count
+
+
+def lines_of(*command):
+    printed = subprocess.run(command, text=True, check=True, stdin=subprocess.DEVNULL,
+                             stdout=subprocess.PIPE).stdout
+    return len(printed.splitlines())
+
+
+def has_ended(launcher, window):
+    """Closes the window, which the window manager does only once it has the focus."""
+    window.close()
+    with contextlib.suppress(subprocess.TimeoutExpired):
+        launcher.wait(timeout=1)
+    return launcher.poll() is not None
+
+
+class StartsTest(LauncherTest):
+    def possessions(self):
+        images = pathlib.Path("/sys/block").glob("loop*/loop/backing_file")
+        return {"temporary files": files_below("/tmp"),
+                "files in the home folder": files_below(self.home),
+                "shared memory": files_below("/dev/shm") + lines_of("ipcs", "-m"),
+                "processes": len(descendants()),
+                "attached images": len(list(images)),
+                "mounts": len(pathlib.Path("/proc/self/mountinfo").read_text().splitlines()),
+                "windows": lines_of("xwininfo", "-root", "-tree")}
+
+    def start_and_quit(self, program, *, during_search):
+        launcher = subprocess.Popen([program], stdin=subprocess.DEVNULL,
+                                    env={**os.environ, "HOME": str(self.home)})
+        self.addCleanup(launcher.kill)
+        if during_search:
+            window = Window(wait_until(lambda: windows_of(PROGRAM), "the window is shown")[0])
+        else:
+            window = LauncherWindow.shown()
+            wait_until(window.has_location, "the location has been found")
+        wait_until(lambda: has_ended(launcher, window), "the launcher has ended")
+        self.assertEqual(launcher.returncode, 0)
+
+    def test_nothing_stays(self):
+        application, _ = self.mounted_application()
+        self.home = self.folder / "home"
+        self.home.mkdir()
+        self.start_and_quit(application / PROGRAM, during_search=False)
+        before = self.possessions()
+        for number in range(STARTS):
+            self.start_and_quit(application / PROGRAM, during_search=number % 2 == 0)
+        wait_until(none_left, "all processes have ended")
+        self.assertEqual(self.possessions(), before)
