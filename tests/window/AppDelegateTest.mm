@@ -45,13 +45,21 @@ std::vector<std::string> delegateMessages() {
   return names;
 }
 
-/// A program that waits to be signalled; it runs already.
+/// A program that waits to be signalled; it runs already. It does not hold back the signals that
+/// this one does.
 pid_t startSleeper() {
   std::string name = "sleep";
   std::string seconds = "600";
   char* const arguments[] = {name.data(), seconds.data(), nullptr};
+  posix_spawnattr_t attributes;
+  sigset_t none;
+  sigemptyset(&none);
+  posix_spawnattr_init(&attributes);
+  posix_spawnattr_setsigmask(&attributes, &none);
+  posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
   pid_t child = -1;
-  posix_spawn(&child, "/bin/sleep", nullptr, nullptr, arguments, environ);
+  posix_spawn(&child, "/bin/sleep", nullptr, &attributes, arguments, environ);
+  posix_spawnattr_destroy(&attributes);
   return child;
 }
 
