@@ -4,7 +4,7 @@ import re
 import sys
 import time
 
-from execution import execute
+from execution import execute, scratch_folder
 from project import ROOT, build, build_folder, sources
 from report import FAILED, PASSED, Report, Result
 
@@ -18,14 +18,15 @@ def targets():
     return [path.stem for path in sources("tests/fuzz/*.cpp")]
 
 
-def _command(target, limits, learnt=()):
+def _command(target, limits, learnt):
+    """What the target learns is written to the first folder only."""
     found = build_folder(PRESET) / "found" / target
     found.mkdir(parents=True, exist_ok=True)
     fuzz = ROOT / "tests" / "fuzz"
     return [str(build_folder(PRESET) / "tests" / "fuzz" / f"fuzz-{target}"), *limits,
             f"-timeout={SECONDS_PER_INPUT}", f"-rss_limit_mb={MOST_MEGABYTES}",
             f"-dict={fuzz}/dictionaries/{target}.dict", f"-artifact_prefix={found}/",
-            "-print_final_stats=1", *learnt, str(fuzz / "corpus" / target)]
+            "-print_final_stats=1", str(learnt), str(fuzz / "corpus" / target)]
 
 
 def _fuzz(target, command):
@@ -38,15 +39,19 @@ def _fuzz(target, command):
 def run():
     """The same inputs each time, so that a change is judged by what it changes."""
     build("fuzz-targets", preset=PRESET)
-    limits = ["-seed=1", f"-runs={INPUTS_IN_TESTS}"]
-    return [_fuzz(target, _command(target, limits)) for target in targets()]
+    return [_try(target) for target in targets()]
+
+
+def _try(target):
+    with scratch_folder() as learnt:
+        return _fuzz(target, _command(target, ["-seed=1", f"-runs={INPUTS_IN_TESTS}"], learnt))
 
 
 def _search(target, seconds):
     """Other inputs each time, from what was learnt before."""
     learnt = build_folder(PRESET) / "learnt" / target
     learnt.mkdir(parents=True, exist_ok=True)
-    return _fuzz(target, _command(target, [f"-max_total_time={seconds}"], [str(learnt)]))
+    return _fuzz(target, _command(target, [f"-max_total_time={seconds}"], learnt))
 
 
 def main(seconds, *names):
