@@ -1,16 +1,14 @@
 // What the reader on Linux refuses though another platform's may not, and how far a list may go.
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <unistd.h>
 
 #include <cstdlib>
-#include <fstream>
 #include <functional>
 #include <string>
 #include <string_view>
 
 #include "discovery/PropertyList.h"
+#include "tests/contract/MemoryLimit_linux.h"
 #include "tests/contract/discovery/BinaryList.h"
 #include "tests/contract/discovery/DescribedList.h"
 
@@ -96,13 +94,17 @@ TEST(PropertyListLinuxTest, DeclarationsAreRefused) {
   EXPECT_EQ(describedReading("<!DOCTYPE plist []><array/>"), "error");
 }
 
-TEST(PropertyListLinuxTest, EntityBombsAreRefused) {
+std::string entityBomb() {
   std::string bomb = "<!DOCTYPE plist [<!ENTITY e0 'bomb'>";
   for (int level = 1; level < 30; ++level) {
     const std::string lower = "&e" + std::to_string(level - 1) + ";";
     bomb += "<!ENTITY e" + std::to_string(level) + " '" + repeated(lower, 10) + "'>";
   }
-  EXPECT_EQ(describedReading(bomb + "]><string>&e29;</string>"), "error");
+  return bomb + "]><string>&e29;</string>";
+}
+
+TEST(PropertyListLinuxTest, EntityBombsAreRefused) {
+  EXPECT_EQ(describedReading(entityBomb()), "error");
 }
 
 TEST(PropertyListLinuxTest, LoneSurrogatesAreRefused) {
@@ -242,25 +244,10 @@ TEST(PropertyListLinuxTest, FourMegabytesAreConverted) {
   EXPECT_EQ(errorOf(utf16 + repeated("\0 "s, kMost / 2)), "more than 4 MB to convert");
 }
 
-#if defined(__SANITIZE_ADDRESS__) || __has_feature(address_sanitizer) || \
-    __has_feature(thread_sanitizer)
-constexpr bool memoryCanBeLimited = false;
-#else
-constexpr bool memoryCanBeLimited = true;
-#endif
-
-std::size_t addressSpace() {
-  std::size_t pages = 0;
-  std::ifstream("/proc/self/statm") >> pages;
-  return pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
-}
-
 /// Reads the list with no more than 64 MB to take, and ends the process: with success if the list
 /// was refused for another reason than that.
 [[noreturn]] void refuseWithin64MB(const std::string& bytes) {
-  rlimit limits{};
-  limits.rlim_cur = limits.rlim_max = addressSpace() + (64U << 20U);
-  setrlimit(RLIMIT_AS, &limits);
+  limitMemoryTo64MB();
   const std::string error = errorOf(bytes);
   std::_Exit(error.empty() || error == "std::bad_alloc" ? 1 : 0);
 }
@@ -276,7 +263,17 @@ TEST(PropertyListLinuxDeathTest, ListsAreRefusedBeforeTheyTakeMuchMemory) {
                      BinaryList::text(std::string(1 << 20, 'a'))};
   BinaryList wide;
   wide.objects = {wide.array(BinaryList::Numbers(15'000'000, 1)), "\x09"};
+  BinaryList endless;
+  endless.objects = {endless.array({0})};
+  BinaryList immense;
+  immense.objects = {BinaryList::head(0xA, std::uint64_t{1} << 63U), BinaryList::text("a")};
   const std::string lists[] = {
+      repeated("<array>", 1'000'000),
+      std::string(100'000'000, ' '),
+      "<!DOCTYPE plist SYSTEM \"file:///dev/zero\"><string>&a;</string>",
+      entityBomb(),
+      endless.bytes(),
+      immense.bytes(),
       "<array>" + filled("<true/>"),
       "<array>" + filled("<array/>"),
       "<array>" + filled("<string>seventeen letters</string>"),

@@ -108,6 +108,16 @@ TEST_F(UpdateStateTest, AsksTheProcessTableOnlyWhenReady) {
   EXPECT_GT(processes.searches, 0);
 }
 
+TEST_F(UpdateStateTest, EveryIdentifierMeansThatTheViewerRuns) {
+  fill("https://server.example", "");
+  for (const ProcessId viewer : {0, 1, 4'194'304}) {
+    processes.processes = {processRecord(viewer, "vexlink")};
+    window.buttonTitle.clear();
+    controller.updateState();
+    EXPECT_EQ(window.buttonTitle, "Re-Launch") << viewer;
+  }
+}
+
 TEST_F(UpdateStateTest, TakesAFailedQueryForAViewerThatDoesNotRun) {
   fill("https://server.example", "");
   letViewerRun(true);

@@ -142,6 +142,12 @@ TEST_F(DownloadOriginTest, AnAttributeThatVanishesInBetweenGivesNothing) {
   EXPECT_EQ(extract(listOf("https://h/D/F")), std::nullopt);
 }
 
+TEST_F(DownloadOriginTest, ALargeAttributeIsRead) {
+  const std::string page = "https://h/" + std::string(1'000'000, 'a');
+  EXPECT_EQ(extract("<array><string>https://h/D/F</string><string>" + page + "</string></array>"),
+            "https://h/D/");
+}
+
 TEST_F(DownloadOriginTest, AnAbsurdSizeGivesNothing) {
   for (const std::ptrdiff_t size : {(std::ptrdiff_t{16} << 20) + 1, std::ptrdiff_t{1} << 40,
                                     std::numeric_limits<std::ptrdiff_t>::max()}) {

@@ -44,6 +44,10 @@ TEST(IPUtilsTest, WritesAddressesAsThePlatformDoes) {
   EXPECT_EQ(firstOf({ipv6("::ffff:10.0.0.5")}), "::ffff:10.0.0.5");
 }
 
+TEST(IPUtilsTest, AnAddressThatHasANameStaysAnAddress) {
+  EXPECT_EQ(firstOf({ipv4("127.0.0.1")}), "127.0.0.1");
+}
+
 TEST(IPUtilsTest, KeepsTheScopeThatThePlatformAdds) {
   const std::optional<std::string> text = firstOf({ipv6("fe80::1", 1)});
   ASSERT_TRUE(text);
