@@ -269,7 +269,7 @@ TEST(PropertyListLinuxDeathTest, ListsAreRefusedBeforeTheyTakeMuchMemory) {
   immense.objects = {BinaryList::head(0xA, std::uint64_t{1} << 63U), BinaryList::text("a")};
   const std::string lists[] = {
       repeated("<array>", 1'000'000),
-      std::string(100'000'000, ' '),
+      repeated(" ", 100'000'000),
       "<!DOCTYPE plist SYSTEM \"file:///dev/zero\"><string>&a;</string>",
       entityBomb(),
       endless.bytes(),

@@ -25,6 +25,7 @@ TEST(LinkDetectorLinuxTest, ReadsSchemes) {
       {"1http://h", "http://h at 1+8"},
       {"-http://h", "http://h at 1+8"},
       {"_http://h", "http://h at 1+8"},
+      {"\u00e9http://h", "http://h at 1+8"},
       {"(http://h)", "http://h at 1+8"},
       {"='http://h'", "http://h at 2+8"},
       {"C://folder", "none"},
@@ -52,6 +53,7 @@ TEST(LinkDetectorLinuxTest, ReadsHosts) {
       {"https://a_b.example", "https://a_b.example at 0+19"},
       {"https://a-.example", "https://a-.example at 0+18"},
       {"https://a%2Eb/", "https://a%2Eb/ at 0+14"},
+      {"https://a%6Fb%6f/", "https://a%6Fb%6f/ at 0+17"},
       {"https://a%b/", "https://a at 0+9"},
       {"https://h./x", "https://h./x at 0+12"},
       {"https://h.:80", "https://h.:80 at 0+13"},
@@ -75,6 +77,7 @@ TEST(LinkDetectorLinuxTest, ReadsHosts) {
 TEST(LinkDetectorLinuxTest, ReadsPorts) {
   constexpr LinkCase kCases[] = {
       {"https://h:80", "https://h:80 at 0+12"},
+      {"https://h:8/x", "https://h:8/x at 0+13"},
       {"https://h:80.", "https://h:80 at 0+12"},
       {"https://h:", "https://h at 0+9"},
       {"https://h:/x", "https://h at 0+9"},
