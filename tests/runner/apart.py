@@ -1,4 +1,4 @@
-"""Runs a command apart from the machine's own processes, mounts, network and displays.
+"""Runs a command apart from the machine's own processes, memory, mounts, network and displays.
 
 Tests start, find and signal processes by name; apart, they meet only their own, and whatever they
 leave behind ends with them. Where this is not allowed they run among the machine's processes.
@@ -18,7 +18,7 @@ import sys
 
 from project import ROOT
 
-NAMESPACES = ["--mount", "--pid", "--net", "--fork", "--kill-child", "--mount-proc"]
+NAMESPACES = ["--mount", "--pid", "--ipc", "--net", "--fork", "--kill-child", "--mount-proc"]
 AS_ROOT = ["unshare", *NAMESPACES]
 AS_USER = ["unshare", "--user", "--map-current-user", "--keep-caps", *NAMESPACES]
 
