@@ -1,6 +1,7 @@
 #include "process/ProcessHelpers.h"
 
 #include <cerrno>
+#include <exception>
 
 #include "base/FatalError.h"
 #include "base/Text.h"
@@ -33,7 +34,7 @@ ProcessId ProcessHelpers::getRunningProcess(std::string_view name, const Process
 }
 
 std::optional<ProcessHelpers::Snapshot> ProcessHelpers::GetBSDProcessList(
-    const ProcessTable& table) {
+    const ProcessTable& table) try {
   std::optional<Snapshot> list;
   while (true) {
     std::size_t length = 0;
@@ -56,6 +57,8 @@ std::optional<ProcessHelpers::Snapshot> ProcessHelpers::GetBSDProcessList(
         fatalError("", "ProcessHelpers", 43);
     }
   }
+} catch (const std::exception&) {
+  return std::nullopt;
 }
 
 }  // namespace launcher

@@ -24,7 +24,8 @@ class ProcessHelpers {
  private:
   using Snapshot = std::vector<std::byte>;
 
-  /// All records of the table, those that it left unfilled zero; absent where its size is unknown.
+  /// All records of the table, those that it left unfilled zero; absent where its size is unknown
+  /// or there is no memory for it.
   static std::optional<Snapshot> GetBSDProcessList(const ProcessTable& table);
 };
 

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <cstddef>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -143,6 +145,12 @@ TEST_F(SnapshotTest, ASizeProbeThatReturnsAnErrorFindsNothing) {
 TEST_F(SnapshotTest, ASizeProbeThatFailsWithoutAnErrorCounts) {
   table_.probes = {{.result = -1, .error = 0, .length = recordBytes}};
   expectFound(7);
+}
+
+TEST_F(SnapshotTest, ATableForWhichThereIsNoMemoryFindsNothing) {
+  table_.probes = {{.length = std::numeric_limits<std::size_t>::max()}};
+  expectFound(noProcess);
+  EXPECT_EQ(table_.fetchedLengths.size(), 0U);
 }
 
 TEST_F(SnapshotTest, AnErrorLeftBehindByASizeProbeIsNotRead) {
