@@ -3,13 +3,14 @@
 namespace {
 
 constexpr CGFloat margin = 20;
-constexpr CGFloat width = 460;
+constexpr CGFloat width = 500;
+constexpr CGFloat iconSize = 48;
 constexpr CGFloat lineHeight = 18;
+constexpr CGFloat titleHeight = 24;
 constexpr CGFloat rowHeight = 28;
-constexpr CGFloat captionWidth = 120;
-constexpr CGFloat folderHeight = 3 * lineHeight;
-constexpr CGFloat gap = 12;
-constexpr CGFloat height = margin + 2 * rowHeight + gap + 2 * rowHeight + folderHeight + margin;
+constexpr CGFloat captionWidth = 136;
+constexpr CGFloat folderHeight = 2 * lineHeight;
+constexpr CGFloat height = margin + iconSize + margin + 2 * rowHeight + folderHeight + margin;
 
 NSTextField* label(NSRect frame, NSString* text, NSFont* font) {
   NSTextField* field = [[[NSTextField alloc] initWithFrame:frame] autorelease];
@@ -21,6 +22,13 @@ NSTextField* label(NSRect frame, NSString* text, NSFont* font) {
   [field setBordered:NO];
   [field setDrawsBackground:NO];
   return field;
+}
+
+NSImageView* iconView(NSRect frame) {
+  NSImageView* view = [[[NSImageView alloc] initWithFrame:frame] autorelease];
+  [view setImage:[NSApp applicationIconImage]];
+  [view setImageScaling:NSImageScaleProportionallyUpOrDown];
+  return view;
 }
 
 NSString* textOf(const std::string& bytes) {
@@ -55,6 +63,7 @@ NSString* textOf(const std::string& bytes) {
 
 - (void)show {
   [_window center];
+  [_window setInitialFirstResponder:[_window contentView]];
   [_window makeKeyAndOrderFront:nil];
 }
 
@@ -64,12 +73,8 @@ NSString* textOf(const std::string& bytes) {
 
 - (void)addTexts:(const viewer::Arguments&)arguments {
   CGFloat top = height - margin;
-  [self addLine:@"Sample viewer" font:[NSFont boldSystemFontOfSize:17] below:top];
-  top -= rowHeight;
-  [self addLine:@"It stands in for the remote-control viewer and shows what it was given."
-           font:[NSFont systemFontOfSize:11]
-          below:top];
-  top -= rowHeight + gap;
+  [self addHeadBelow:top];
+  top -= iconSize + margin;
   [self addCaption:@"Host" value:textOf(arguments.host) height:lineHeight below:top];
   top -= rowHeight;
   [self addCaption:@"IP address" value:textOf(arguments.ipAddress) height:lineHeight below:top];
@@ -80,9 +85,18 @@ NSString* textOf(const std::string& bytes) {
              below:top];
 }
 
-- (void)addLine:(NSString*)text font:(NSFont*)font below:(CGFloat)top {
-  const NSRect frame = NSMakeRect(margin, top - rowHeight, width - 2 * margin, rowHeight);
-  [[_window contentView] addSubview:label(frame, text, font)];
+/// The icon, and beside it what this window is.
+- (void)addHeadBelow:(CGFloat)top {
+  NSView* content = [_window contentView];
+  [content addSubview:iconView(NSMakeRect(margin, top - iconSize, iconSize, iconSize))];
+
+  const CGFloat left = margin + iconSize + 16;
+  const CGFloat room = width - left - margin;
+  [content addSubview:label(NSMakeRect(left, top - titleHeight, room, titleHeight),
+                            @"Sample viewer", [NSFont boldSystemFontOfSize:17])];
+  [content addSubview:label(NSMakeRect(left, top - iconSize, room, lineHeight),
+                            @"Shows what the remote-control viewer would be given.",
+                            [NSFont systemFontOfSize:11])];
 }
 
 /// A value that can be selected, with its caption on the left.
@@ -91,11 +105,11 @@ NSString* textOf(const std::string& bytes) {
             height:(CGFloat)valueHeight
              below:(CGFloat)top {
   const NSRect left = NSMakeRect(margin, top - lineHeight, captionWidth, lineHeight);
-  [[_window contentView] addSubview:label(left, caption, [NSFont boldSystemFontOfSize:12])];
+  [[_window contentView] addSubview:label(left, caption, [NSFont boldSystemFontOfSize:13])];
 
   const NSRect right = NSMakeRect(margin + captionWidth, top - valueHeight,
                                   width - 2 * margin - captionWidth, valueHeight);
-  NSTextField* field = label(right, value, [NSFont systemFontOfSize:12]);
+  NSTextField* field = label(right, value, [NSFont systemFontOfSize:13]);
   [field setSelectable:YES];
   [[field cell] setLineBreakMode:NSLineBreakByCharWrapping];
   [[_window contentView] addSubview:field];

@@ -10,4 +10,8 @@ bool prepareToolkit() {
   return true;
 }
 
+std::string iconIn(const std::string& resourceFolder) {
+  return resourceFolder + "/VorxLauncher.png";
+}
+
 }  // namespace viewer

@@ -19,9 +19,17 @@ void print(const viewer::Arguments& arguments) {
   std::fflush(stdout);
 }
 
+/// Shows the launcher's icon, where there is one.
+void takeIcon(NSApplication* application, const viewer::Arguments& arguments) {
+  NSString* file = [NSString stringWithUTF8String:viewer::iconIn(arguments.resourceFolder).c_str()];
+  NSImage* icon = file != nil ? [[[NSImage alloc] initWithContentsOfFile:file] autorelease] : nil;
+  if (icon != nil) [application setApplicationIconImage:icon];
+}
+
 void showWindow(const viewer::Arguments& arguments) {
   @autoreleasepool {
     NSApplication* application = [NSApplication sharedApplication];
+    takeIcon(application, arguments);
     SampleWindow* window = [[SampleWindow alloc] initWithArguments:arguments];
     [application setDelegate:window];
     [window show];

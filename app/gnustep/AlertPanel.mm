@@ -5,19 +5,6 @@
 
 #import "app/gnustep/XWindows.h"
 
-/// An icon that is made smaller without losing lines.
-@interface IconView : NSImageView
-@end
-
-@implementation IconView
-
-- (void)drawRect:(NSRect)rect {
-  [[NSGraphicsContext currentContext] setImageInterpolation:NSImageInterpolationHigh];
-  [super drawRect:rect];
-}
-
-@end
-
 namespace {
 
 constexpr CGFloat margin = 20;
@@ -46,7 +33,7 @@ NSTextField* label(NSString* text, NSFont* font) {
 
 NSImageView* iconView(NSImage* icon) {
   NSImageView* view =
-      [[[IconView alloc] initWithFrame:NSMakeRect(0, 0, iconSize, iconSize)] autorelease];
+      [[[NSImageView alloc] initWithFrame:NSMakeRect(0, 0, iconSize, iconSize)] autorelease];
   [view setImage:icon != nil ? icon : [NSApp applicationIconImage]];
   [view setImageScaling:NSImageScaleProportionallyUpOrDown];
   return view;

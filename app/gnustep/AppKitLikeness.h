@@ -17,6 +17,7 @@ void installEventQueue();
 void installFieldEditor();
 void installFocusRing();
 void installHiding();
+void installImages();
 void installImageFormats();
 void installLayers();
 void installMenus();

@@ -31,6 +31,7 @@ void installAppKitLikeness() {
     installAlerts();
     installAboutPanel();
     installHiding();
+    installImages();
     installButtonTitles();
     installMenus();
   }

@@ -1,10 +1,22 @@
-// The toolkit's system colours, light and flat.
+// The toolkit's system colours, light and flat. All of them are ours, since a text of somebody
+// else's colour could not be read on a ground of ours; the fields are white in any case.
 
 #import <AppKit/AppKit.h>
 
 #import "app/gnustep/AppKitLikeness.h"
 
 namespace launcher {
+namespace {
+
+/// Lets settings come before those of the person and of the command line.
+void putFirst(NSDictionary* settings) {
+  NSString* const domain = @"LauncherColours";
+  NSUserDefaults* defaults = [NSUserDefaults standardUserDefaults];
+  [defaults setVolatileDomain:settings forName:domain];
+  [defaults setSearchList:[@[ domain ] arrayByAddingObjectsFromArray:[defaults searchList]]];
+}
+
+}  // namespace
 
 void registerColours() {
   NSString* const surface = @"0.965 0.965 0.965";
@@ -15,7 +27,7 @@ void registerColours() {
   NSString* const paleAccent = @"0.72 0.84 0.98";
   NSString* const line = @"0.80 0.80 0.81";
 
-  [[NSUserDefaults standardUserDefaults] registerDefaults:@{
+  putFirst(@{
     @"windowBackgroundColor" : surface,
     @"controlColor" : surface,
     @"controlBackgroundColor" : surface,
@@ -38,7 +50,7 @@ void registerColours() {
     @"controlLightHighlightColor" : paper,
     @"toolTipColor" : paper,
     @"toolTipTextColor" : ink,
-  }];
+  });
 }
 
 }  // namespace launcher

@@ -13,7 +13,8 @@
 
 - (void)launcher_ringedDrawRect:(NSRect)rect {
   [self launcher_ringedDrawRect:rect];
-  if ([self currentEditor] != nil) [[GSTheme theme] drawFocusFrame:[self bounds] view:self];
+  const bool ringed = [self isEditable] && [self currentEditor] != nil;
+  if (ringed) [[GSTheme theme] drawFocusFrame:[self bounds] view:self];
 }
 
 - (BOOL)launcher_becomeFirstResponder {

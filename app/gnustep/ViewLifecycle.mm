@@ -40,7 +40,8 @@ NSMapTable* contentViewControllers() {
 }
 
 /// The window's content takes the size of the controller's view, as AppKit's does.
-/// `setContentSize:` would forget the menu.
+/// `setContentSize:` would forget the menu. Where the layout file puts the window is meant for
+/// another screen.
 - (void)setContentViewController:(NSViewController*)controller {
   NSMapInsert(contentViewControllers(), self, controller);
   NSView* view = [controller view];
@@ -51,6 +52,7 @@ NSMapTable* contentViewControllers() {
   frame.size.height += after.height - before.height;
   [self setFrame:frame display:NO];
   [self setContentView:view];
+  [self center];
 }
 
 @end

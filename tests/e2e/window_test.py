@@ -31,3 +31,14 @@ class WindowTest(LauncherTest):
                         "-set", "RESOURCE_MANAGER", "Xft.dpi:\t192\n"], check=True)
         self.start()
         self.assertEqual(self.window.geometry()[2:], [2 * width, 2 * height])
+
+    def test_colours_of_other_programs_leave_it_legible(self):
+        self.start()
+        light = self.window.settled_picture()
+        self.quit()
+
+        settings = self.folder / "GNUstep/Defaults/NSGlobalDomain.plist"
+        settings.parent.mkdir(parents=True, exist_ok=True)
+        settings.write_text('{ controlTextColor = "1 1 1"; textBackgroundColor = "0 0 0"; }')
+        self.start()
+        self.assertEqual(self.window.settled_picture(), light)

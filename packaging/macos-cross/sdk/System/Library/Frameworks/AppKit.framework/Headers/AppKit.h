@@ -8,6 +8,7 @@
 #import <AppKit/NSColor.h>
 #import <AppKit/NSControl.h>
 #import <AppKit/NSFont.h>
+#import <AppKit/NSImage.h>
 #import <AppKit/NSStringDrawing.h>
 #import <AppKit/NSView.h>
 #import <AppKit/NSViewController.h>

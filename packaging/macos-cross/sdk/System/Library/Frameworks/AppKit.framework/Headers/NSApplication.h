@@ -2,6 +2,7 @@
 
 #import <Foundation/Foundation.h>
 
+@class NSImage;
 @protocol NSApplicationDelegate;
 
 typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
@@ -14,6 +15,7 @@ FOUNDATION_EXPORT @interface NSResponder : NSObject <NSCoding>
 FOUNDATION_EXPORT @interface NSApplication : NSResponder
 @property(class, readonly, retain) NSApplication* sharedApplication;
 @property(assign) id<NSApplicationDelegate> delegate;
+@property(retain) NSImage* applicationIconImage;
 - (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)policy;
 - (void)activateIgnoringOtherApps:(BOOL)flag;
 - (void)run;

@@ -21,6 +21,7 @@ FOUNDATION_EXPORT @interface NSWindow : NSResponder
 @property(getter=isReleasedWhenClosed) BOOL releasedWhenClosed;
 @property NSWindowLevel level;
 @property(retain) NSView* contentView;
+@property(assign) NSView* initialFirstResponder;
 - (void)center;
 - (void)makeKeyAndOrderFront:(id)sender;
 @end
