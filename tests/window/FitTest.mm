@@ -21,10 +21,14 @@ NSString* inLanguage(NSString* language, const char* key) {
                                                    ofType:@"strings"
                                               inDirectory:nil
                                           forLocalization:language];
-  NSDictionary* table = [NSDictionary dictionaryWithContentsOfFile:file];
-  if (table == nil)
-    table = [[NSString stringWithContentsOfFile:file] propertyListFromStringsFileFormat];
+  NSDictionary* table =
+      [[NSString stringWithContentsOfFile:file] propertyListFromStringsFileFormat];
   return [table objectForKey:[NSString stringWithUTF8String:key]];
+}
+
+NSFont* font(NSString* ofLanguage) {
+  const auto name = desktopFont([ofLanguage UTF8String], FontWeight::regular);
+  return [NSFont fontWithName:[NSString stringWithUTF8String:name.c_str()] size:13];
 }
 
 class FitTest : public testing::TestWithParam<const char*> {
@@ -33,11 +37,6 @@ class FitTest : public testing::TestWithParam<const char*> {
     clearStage();
     NSSize narrowest = [shown_.window() minSize];
     [shown_.window() setFrame:{[shown_.window() frame].origin, narrowest} display:YES];
-  }
-
-  NSFont* font(NSString* ofLanguage) {
-    const auto name = desktopFont([ofLanguage UTF8String], FontWeight::regular);
-    return [NSFont fontWithName:[NSString stringWithUTF8String:name.c_str()] size:13];
   }
 
   /// The height that a text takes up where a field shows it.
