@@ -26,7 +26,7 @@ NSTextField* label(NSRect frame, NSString* text, NSFont* font) {
 
 NSImageView* iconView(NSRect frame) {
   NSImageView* view = [[[NSImageView alloc] initWithFrame:frame] autorelease];
-  [view setImage:[NSApp applicationIconImage]];
+  [view setImage:[[NSApplication sharedApplication] applicationIconImage]];
   [view setImageScaling:NSImageScaleProportionallyUpOrDown];
   return view;
 }
