@@ -53,7 +53,7 @@
 /// A line below the bar, and all around a menu.
 - (NSColor*)menuBorderColorForEdge:(NSRectEdge)edge isHorizontal:(BOOL)horizontal {
   const bool drawn = !horizontal || edge == NSMinYEdge;
-  return drawn ? [NSColor controlShadowColor] : nil;
+  return drawn ? [NSColor controlShadowColor] : [self menuBackgroundColor];
 }
 
 - (void)drawBorderAndBackgroundForMenuItemCell:(NSMenuItemCell*)cell
