@@ -4,6 +4,16 @@
 set(bundle "${CMAKE_BINARY_DIR}/VorxLauncher.app")
 set_target_properties(VorxLauncher PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${bundle}")
 
+# Keeps what debuggers want to know in a file of its own, which is not shipped.
+function(ship_without_debug_information program)
+  set(kept "${CMAKE_BINARY_DIR}/${program}.debug")
+  add_custom_command(TARGET ${program} POST_BUILD
+    COMMAND "${CMAKE_OBJCOPY}" --only-keep-debug "$<TARGET_FILE:${program}>" "${kept}"
+    COMMAND "${CMAKE_OBJCOPY}" --strip-debug "--add-gnu-debuglink=${kept}" "$<TARGET_FILE:${program}>")
+endfunction()
+
+ship_without_debug_information(VorxLauncher)
+
 include(Icons)
 set(icon "${CMAKE_CURRENT_BINARY_DIR}/VorxLauncher.png")
 launcher_icon("${icon}")
