@@ -1,6 +1,7 @@
 #import "controller/WindowBridge.h"
 
 #import <AppKit/AppKit.h>
+#import <CoreGraphics/CoreGraphics.h>
 #import <QuartzCore/QuartzCore.h>
 
 #import "base/Conversions.h"
@@ -20,6 +21,24 @@ NSColor* named(FieldColour colour) {
     case FieldColour::white:
       return [NSColor whiteColor];
   }
+}
+
+// Painting what is shown already would be the larger part of a keystroke's cost.
+
+void setEnabled(NSControl* control, Availability availability) {
+  if ([control isEnabled] != isEnabled(availability)) [control setEnabled:isEnabled(availability)];
+}
+
+void setText(NSTextField* label, NSString* text) {
+  if (![[label stringValue] isEqualToString:text]) [label setStringValue:text];
+}
+
+void setTitle(NSButton* button, NSString* title) {
+  if (![[button title] isEqualToString:title]) [button setTitle:title];
+}
+
+void setColour(CALayer* layer, CGColorRef colour) {
+  if (!CGColorEqualToColor([layer backgroundColor], colour)) [layer setBackgroundColor:colour];
 }
 
 /// Holds a controller and lets go of it on the main thread, where its view belongs.
@@ -49,7 +68,7 @@ void WindowBridge::setVorxLocation(const std::string& text) {
 }
 
 void WindowBridge::setVorxLocation(Availability availability) {
-  [[controller_ vorxLocation] setEnabled:isEnabled(availability)];
+  setEnabled([controller_ vorxLocation], availability);
 }
 
 std::string WindowBridge::ipAddress() const {
@@ -57,19 +76,19 @@ std::string WindowBridge::ipAddress() const {
 }
 
 void WindowBridge::setIpAddressColour(FieldColour colour) {
-  [[[controller_ ipAddress] layer] setBackgroundColor:[named(colour) CGColor]];
+  setColour([[controller_ ipAddress] layer], [named(colour) CGColor]);
 }
 
 void WindowBridge::setLaunchButton(Availability availability) {
-  [[controller_ launchButton] setEnabled:isEnabled(availability)];
+  setEnabled([controller_ launchButton], availability);
 }
 
 void WindowBridge::setLaunchButtonTitle(const std::string& title) {
-  [[controller_ launchButton] setTitle:toToolkit(title)];
+  setTitle([controller_ launchButton], toToolkit(title));
 }
 
 void WindowBridge::setInfoLabel(const std::string& text) {
-  [[controller_ infoLabel] setStringValue:toToolkit(text)];
+  setText([controller_ infoLabel], toToolkit(text));
 }
 
 void WindowBridge::show(const Alert& alert) {
