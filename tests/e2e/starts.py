@@ -42,12 +42,11 @@ def has_ended(launcher, window):
 
 class StartsTest(LauncherTest):
     def possessions(self):
-        images = pathlib.Path("/sys/block").glob("loop*/loop/backing_file")
         return {"temporary files": files_below("/tmp"),
                 "files in the home folder": files_below(self.home),
                 "shared memory": lines_of("ipcs", "-m"),
                 "processes": len(descendants()),
-                "attached images": len(list(images)),
+                "attached images": lines_of("losetup", "--associated", self.image),
                 "mounts": len(pathlib.Path("/proc/self/mountinfo").read_text().splitlines()),
                 "windows": lines_of("xwininfo", "-root", "-tree")}
 
@@ -65,6 +64,7 @@ class StartsTest(LauncherTest):
 
     def test_nothing_stays(self):
         application, _ = self.mounted_application()
+        self.image = next(self.folder.glob("downloads/*"))
         self.home = self.folder / "home"
         self.home.mkdir()
         self.start_and_quit(application / PROGRAM, during_search=False)
