@@ -101,5 +101,11 @@ TEST_F(OriginAttributeLinuxTest, AListFromAnotherSystemCountsFirst) {
   EXPECT_EQ(probe(), 0);
 }
 
+TEST_F(OriginAttributeLinuxTest, AListFromAnotherSystemThatHasGrownCountsAllTheSame) {
+  ASSERT_TRUE(setAttribute(file_, kWhereFroms, std::string(2'000, 'a')));
+  std::string room(1'000, '.');
+  EXPECT_EQ(readInto(room), -1);
+}
+
 }  // namespace
 }  // namespace launcher
