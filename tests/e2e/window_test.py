@@ -24,6 +24,7 @@ class WindowTest(LauncherTest):
     def test_it_is_as_large_as_a_dense_screen_needs(self):
         self.start()
         width, height = self.window.geometry()[2:]
+        ordinary = self.window.settled_picture()
         self.quit()
 
         self.addCleanup(subprocess.run, ["xprop", "-root", "-remove", "RESOURCE_MANAGER"], check=True)
@@ -31,6 +32,9 @@ class WindowTest(LauncherTest):
                         "-set", "RESOURCE_MANAGER", "Xft.dpi:\t192\n"], check=True)
         self.start()
         self.assertEqual(self.window.geometry()[2:], [2 * width, 2 * height])
+        dense = self.window.settled_picture()
+        for x, y in ((2, 2), (2, height - 1), (width - 2, 2), (width - 2, height - 1)):
+            self.assertEqual(dense.pixel(2 * x, 2 * y + 1), ordinary.pixel(x, y), (x, y))
 
     def test_colours_of_other_programs_leave_it_legible(self):
         self.start()

@@ -100,6 +100,21 @@ TEST_F(AlertTest, ShowsItsTextsAndItsButtonUntilItIsDismissed) {
   EXPECT_EQ([NSApp modalWindow], nil);
 }
 
+TEST_F(AlertTest, AboutShowsTheProgramsNameAndVersion) {
+  LauncherWindowOnScreen shown;
+  Texts texts;
+  [DuringAlert after:0.1
+                  do:[&texts] {
+                    texts = shownTexts();
+                    dismiss();
+                  }];
+  [NSApp orderFrontStandardAboutPanel:nil];
+  ASSERT_EQ(texts.size(), 3U);
+  EXPECT_EQ(texts[0], "Vorx Launcher");
+  EXPECT_EQ(texts[2], "OK");
+  EXPECT_EQ([NSApp modalWindow], nil);
+}
+
 TEST_F(AlertTest, EscapeDismissesItToo) {
   ViewController* controller = loadedController();
   [DuringAlert after:0.1 do:[] { press(@"\x1b"); }];
