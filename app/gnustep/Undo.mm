@@ -1,5 +1,4 @@
-// Undo and redo in fields. A window has one editor for all its fields, and what it has noted of one
-// text must not be done to another.
+// Undo and redo in fields, which AppKit's fields allow where nothing else is said.
 
 #import <AppKit/AppKit.h>
 
@@ -17,23 +16,10 @@
 
 @end
 
-@interface NSTextView (UndoExchange)
-@end
-
-@implementation NSTextView (UndoExchange)
-
-- (void)launcher_setString:(NSString*)string {
-  [self launcher_setString:string];
-  if ([self isFieldEditor]) [[self undoManager] removeAllActions];
-}
-
-@end
-
 namespace launcher {
 
 void installUndo() {
   exchangeMethods([NSTextFieldCell class], @selector(allowsUndo), @selector(launcher_allowsUndo));
-  exchangeMethods([NSTextView class], @selector(setString:), @selector(launcher_setString:));
 }
 
 }  // namespace launcher

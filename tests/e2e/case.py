@@ -77,11 +77,12 @@ class LauncherTest(unittest.TestCase):
             self.skipTest(f"images cannot be attached here: {reason}")
         return pathlib.Path(volume) / APPLICATION, address
 
-    def start(self, program=None, *, folder=None, language="en", locale="C.UTF-8",
+    def start(self, program=None, *arguments, folder=None, language="en", locale="C.UTF-8",
               environment=None):
         """Starts the launcher and waits for its window."""
         self.launcher = subprocess.Popen(
-            [str(program or self.application / PROGRAM)], cwd=folder, stdin=subprocess.DEVNULL,
+            [str(program or self.application / PROGRAM), *arguments], cwd=folder,
+            stdin=subprocess.DEVNULL,
             env={**os.environ, "HOME": str(self.folder), "LC_ALL": locale, "LANGUAGE": language,
                  "RECORD": str(self.record.file), **(environment or {})})
         self.addCleanup(self.end, self.launcher)

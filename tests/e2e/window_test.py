@@ -41,8 +41,6 @@ class WindowTest(LauncherTest):
         light = self.window.settled_picture()
         self.quit()
 
-        settings = self.folder / "GNUstep/Defaults/NSGlobalDomain.plist"
-        settings.parent.mkdir(parents=True, exist_ok=True)
-        settings.write_text('{ controlTextColor = "1 1 1"; textBackgroundColor = "0 0 0"; }')
-        self.start()
+        # As a setting of the toolkit's; the person's own file of them lies outside of this test.
+        self.start(None, "-controlTextColor", "1 1 1", "-textBackgroundColor", "0 0 0")
         self.assertEqual(self.window.settled_picture(), light)
