@@ -43,4 +43,5 @@ class WindowTest(LauncherTest):
 
         # As a setting of the toolkit's; the person's own file of them lies outside of this test.
         self.start(None, "-controlTextColor", "1 1 1", "-textBackgroundColor", "0 0 0")
-        self.assertEqual(self.window.settled_picture(), light)
+        # The insertion point blinks.
+        wait_until(lambda: self.window.picture() == light, "the window looks as before")
