@@ -3,7 +3,8 @@
 add_library(launcher_warnings INTERFACE)
 target_compile_options(launcher_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast
-  -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Wnull-dereference -Werror)
+  -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Wnull-dereference
+  -Wreserved-identifier -Werror)
 
 # A designated initialiser names what differs from the defaults. Newer compilers warn of that.
 include(CheckCXXCompilerFlag)
