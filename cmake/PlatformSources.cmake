@@ -2,6 +2,7 @@
 # questions there. Folders are relative to the room.
 
 if(APPLE)
+  set(OTHER_PLATFORMS_FILES "_(linux|gnustep)[^/]*$")  # by their names, among those of a folder
   set(BASE_PLATFORM_SOURCES Conversions.mm Sleeper_mac.mm UnicodeRules_mac.mm Url_mac.mm)
   set(PROCESS_PLATFORM_SOURCES ProcessTable_mac.cpp ProgramStarter_mac.mm)
   set(NET_PLATFORM_SOURCES HostResolver_mac.cpp LinkDetector_mac.mm)
@@ -12,6 +13,7 @@ if(APPLE)
   set(APP_PLATFORM_SOURCES PrepareToolkit_mac.cpp)
   set(VIEWER_PLATFORM_SOURCES Toolkit_mac.mm)
 else()
+  set(OTHER_PLATFORMS_FILES "_mac[^/]*$")
   set(BASE_PLATFORM_SOURCES
     Sleeper_linux.cpp Spawn_linux.cpp UnicodeRules_linux.cpp Url_linux.cpp)
   set(PROCESS_PLATFORM_SOURCES ProcessTable_linux.cpp ProgramStarter_linux.cpp)

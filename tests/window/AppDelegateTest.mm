@@ -4,17 +4,14 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#import <objc/runtime.h>
 #include <spawn.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include <csignal>
-#include <cstdlib>
 #include <string>
-#include <vector>
 
 #include "app/Services.h"
+#import "tests/window/Messages.h"
 #import "tests/window/Stage.h"
 
 namespace launcher {
@@ -35,22 +32,13 @@ FakeProcessTable& processesAtQuit() {
   return dynamic_cast<FakeProcessTable&>(*services().processes);
 }
 
-std::vector<std::string> delegateMessages() {
-  unsigned count = 0;
-  Method* methods = class_copyMethodList([AppDelegate class], &count);
-  std::vector<std::string> names;
-  for (unsigned i = 0; i < count; ++i) names.emplace_back(sel_getName(method_getName(methods[i])));
-  std::free(methods);
-  std::erase(names, "init");
-  return names;
-}
-
 /// A program that waits to be signalled; it runs already. It does not hold back the signals that
 /// this one does.
 pid_t startSleeper() {
   std::string name = "sleep";
   std::string seconds = "600";
   char* const arguments[] = {name.data(), seconds.data(), nullptr};
+  char* const environment[] = {nullptr};
   posix_spawnattr_t attributes;
   sigset_t none;
   sigemptyset(&none);
@@ -58,7 +46,7 @@ pid_t startSleeper() {
   posix_spawnattr_setsigmask(&attributes, &none);
   posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
   pid_t child = -1;
-  posix_spawn(&child, "/bin/sleep", nullptr, &attributes, arguments, environ);
+  posix_spawn(&child, "/bin/sleep", nullptr, &attributes, arguments, environment);
   posix_spawnattr_destroy(&attributes);
   return child;
 }
@@ -81,9 +69,10 @@ class AppDelegateTest : public testing::Test {
 };
 
 TEST_F(AppDelegateTest, ImplementsThreeOperationsOfTheProtocol) {
-  EXPECT_THAT(delegateMessages(),
-              testing::ElementsAre("applicationDidFinishLaunching:", "applicationWillTerminate:",
-                                   "applicationShouldTerminateAfterLastWindowClosed:"));
+  EXPECT_THAT(messagesOf([AppDelegate class]),
+              testing::UnorderedElementsAre(
+                  "init", "applicationDidFinishLaunching:", "applicationWillTerminate:",
+                  "applicationShouldTerminateAfterLastWindowClosed:"));
 }
 
 TEST_F(AppDelegateTest, TheLastWindowClosesTheApplication) {

@@ -64,7 +64,7 @@ TEST(ConversionsTest, AbsenceGoesAsNil) {
 }
 
 TEST(ConversionsTest, UrlsComeByTheirAbsoluteText) {
-  EXPECT_EQ(fromToolkit([NSURL fileURLWithPath:@"/a b/\u00e9.dmg"])->filePath(), "/a b/\u00e9.dmg");
+  EXPECT_EQ(fromToolkit([NSURL fileURLWithPath:@"/a b/\u4e2d.dmg"])->filePath(), "/a b/\u4e2d.dmg");
   EXPECT_EQ(fromToolkit([NSURL URLWithString:@"https://h/D/F"])->absoluteString(), "https://h/D/F");
   EXPECT_EQ(fromToolkit(static_cast<NSURL*>(nil)), std::nullopt);
 }

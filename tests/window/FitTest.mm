@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/desktop/Fonts.h"
+#import "tests/window/Fonts.h"
 #import "tests/window/Stage.h"
 #import "tests/window/Windows.h"
 
@@ -16,27 +16,27 @@ const char* const statusTexts[] = {
     "Looking up IP Address for the Vorx",
 };
 
+/// From the language's own table; nil where that lacks the text.
 NSString* inLanguage(NSString* language, const char* key) {
-  NSString* file = [[NSBundle mainBundle] pathForResource:@"Localizable"
-                                                   ofType:@"strings"
-                                              inDirectory:nil
-                                          forLocalization:language];
-  NSDictionary* table =
-      [[NSString stringWithContentsOfFile:file] propertyListFromStringsFileFormat];
-  return [table objectForKey:[NSString stringWithUTF8String:key]];
+  NSString* folder = [[NSBundle mainBundle] pathForResource:language ofType:@"lproj"];
+  NSString* text =
+      [[NSBundle bundleWithPath:folder] localizedStringForKey:[NSString stringWithUTF8String:key]
+                                                        value:@"missing"
+                                                        table:nil];
+  return [text isEqualToString:@"missing"] ? nil : text;
 }
 
-NSFont* font(NSString* ofLanguage) {
-  const auto name = desktopFont([ofLanguage UTF8String], FontWeight::regular);
-  return [NSFont fontWithName:[NSString stringWithUTF8String:name.c_str()] size:13];
+void makeNarrowest(NSWindow* window) {
+  NSRect frame = [window frame];
+  frame.size.width += [window contentMinSize].width - [[window contentView] frame].size.width;
+  [window setFrame:frame display:YES];
 }
 
 class FitTest : public testing::TestWithParam<const char*> {
  protected:
   FitTest() {
     clearStage();
-    NSSize narrowest = [shown_.window() minSize];
-    [shown_.window() setFrame:{[shown_.window() frame].origin, narrowest} display:YES];
+    makeNarrowest(shown_.window());
   }
 
   /// The height that a text takes up where a field shows it.
@@ -44,7 +44,7 @@ class FitTest : public testing::TestWithParam<const char*> {
     const NSSize room = [[field cell] titleRectForBounds:[field bounds]].size;
     NSAttributedString* shown = [[[NSAttributedString alloc]
         initWithString:text
-            attributes:@{NSFontAttributeName : font(language_)}] autorelease];
+            attributes:@{NSFontAttributeName : windowFont(language_)}] autorelease];
     return [shown boundingRectWithSize:NSMakeSize(room.width, CGFLOAT_MAX)
                                options:NSStringDrawingUsesLineFragmentOrigin]
         .size.height;
@@ -68,7 +68,8 @@ TEST_P(FitTest, TheButtonHasRoomForEachTitle) {
   for (const char* key : {"Launch", "Re-Launch"}) {
     NSString* title = inLanguage(language_, key);
     ASSERT_NE(title, nil) << key;
-    const CGFloat width = [title sizeWithAttributes:@{NSFontAttributeName : font(language_)}].width;
+    const CGFloat width =
+        [title sizeWithAttributes:@{NSFontAttributeName : windowFont(language_)}].width;
     EXPECT_LE(width, [button bounds].size.width - 24) << [title UTF8String];
   }
 }

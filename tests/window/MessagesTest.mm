@@ -1,63 +1,14 @@
 // The messages that the controller answers.
 
-#import <objc/runtime.h>
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <string>
-#include <vector>
-
 #import "base/Conversions.h"
+#import "tests/window/Messages.h"
 #import "tests/window/Stage.h"
 
 namespace launcher {
 namespace {
-
-using Names = std::vector<std::string>;
-
-const Names messages = {
-    "launchButton",
-    "setLaunchButton:",
-    "infoLabel",
-    "setInfoLabel:",
-    "vorxLocation",
-    "setVorxLocation:",
-    "ipAddress",
-    "setIpAddress:",
-    "backgroundQueue",
-    "viewDidLoad",
-    "viewWillAppear",
-    "representedObject",
-    "setRepresentedObject:",
-    "getIpAddressWithDomain:manualIP:",
-    "launchButtonClick:",
-    "updateState",
-    "extractWhereAreYouFromUrl:",
-    "processDMGDataWithPlist:",
-    "updateSourceLocationWithSource:",
-    "searchDMGs",
-    "extractSourceFromDMG",
-    "controlTextDidChange:",
-    "initWithNibName:bundle:",
-    "initWithCoder:",
-};
-
-/// What the compiler and the memory's counting add.
-bool isHousekeeping(const std::string& name) { return name == "dealloc" || name[0] == '.'; }
-
-Names methodsOf(Class type) {
-  unsigned count = 0;
-  Method* methods = class_copyMethodList(type, &count);
-  Names names;
-  for (unsigned i = 0; i < count; ++i) {
-    const std::string name = sel_getName(method_getName(methods[i]));
-    if (!isHousekeeping(name)) names.push_back(name);
-  }
-  std::free(methods);
-  return names;
-}
 
 class MessagesTest : public testing::Test {
  protected:
@@ -66,8 +17,9 @@ class MessagesTest : public testing::Test {
   ViewController* controller_ = loadedController();
 };
 
-TEST_F(MessagesTest, AreTheseInThisOrder) {
-  EXPECT_EQ(methodsOf([ViewController class]), messages);
+TEST_F(MessagesTest, AreTheseAndNoOthers) {
+  EXPECT_THAT(messagesOf([ViewController class]),
+              testing::UnorderedElementsAreArray(controllerMessages()));
 }
 
 TEST_F(MessagesTest, GivesTheBackgroundQueueAndKeepsIt) {
@@ -101,12 +53,12 @@ NSDictionary* listingOf(NSString* image, NSString* mountPoint) {
 
 TEST_F(MessagesTest, FollowsAListingToTheServer) {
   stage().bundle.folder = "/Volumes/Vorx/VorxLauncher.app";
-  stage().origin.values["/D/i \u00e9.dmg"] =
+  stage().origin.values["/D/i \u4e2d.dmg"] =
       "<plist><array><string>https://h/D/F</string></array></plist>";
   EXPECT_EQ(fromToolkit([controller_
-                processDMGDataWithPlist:listingOf(@"/D/i \u00e9.dmg", @"/Volumes/Vorx")]),
+                processDMGDataWithPlist:listingOf(@"/D/i \u4e2d.dmg", @"/Volumes/Vorx")]),
             "https://h/D/");
-  EXPECT_EQ([controller_ processDMGDataWithPlist:listingOf(@"/D/i \u00e9.dmg", @"/elsewhere")],
+  EXPECT_EQ([controller_ processDMGDataWithPlist:listingOf(@"/D/i \u4e2d.dmg", @"/elsewhere")],
             nil);
 }
 
@@ -124,10 +76,10 @@ TEST_F(MessagesTest, FindsNothingWithoutAListing) {
 
 TEST_F(MessagesTest, WritesAFoundLocationLaterAndInOrder) {
   [controller_ updateSourceLocationWithSource:@"http://first/"];
-  [controller_ updateSourceLocationWithSource:@"https://second/\u00e9"];
+  [controller_ updateSourceLocationWithSource:@"https://second/\u4e2d"];
   EXPECT_EQ(textOf([controller_ vorxLocation]), "");
   settle();
-  EXPECT_EQ(textOf([controller_ vorxLocation]), "https://second/\u00e9");
+  EXPECT_EQ(textOf([controller_ vorxLocation]), "https://second/\u4e2d");
 }
 
 }  // namespace

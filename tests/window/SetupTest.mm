@@ -67,7 +67,7 @@ TEST_F(SetupTest, FloatsOnEveryShowing) {
   [shown.window() orderOut:nil];
   [shown.window() setLevel:NSNormalWindowLevel];
   [shown.window() orderFront:nil];
-  EXPECT_EQ([shown.window() level], NSFloatingWindowLevel);
+  EXPECT_TRUE(eventually([&shown] { return [shown.window() level] == NSFloatingWindowLevel; }));
 }
 
 TEST_F(SetupTest, WithoutAWindowNothingFloats) {

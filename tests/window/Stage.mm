@@ -16,7 +16,7 @@ std::shared_ptr<ListingTool> makeListingTool() {
 }
 
 void handleNextEvent() {
-  NSEvent* event = [NSApp nextEventMatchingMask:NSAnyEventMask
+  NSEvent* event = [NSApp nextEventMatchingMask:NSEventMaskAny
                                       untilDate:[NSDate dateWithTimeIntervalSinceNow:0.01]
                                          inMode:NSDefaultRunLoopMode
                                         dequeue:YES];

@@ -18,6 +18,7 @@ class LauncherWindowOnScreen {
   ViewController* controller() const;
 
  private:
+  NSArray* objects_ = nil;  // what the layout resource holds besides
   NSWindow* window_ = nil;
 };
 
@@ -25,5 +26,8 @@ class LauncherWindowOnScreen {
 void type(NSWindow* window, NSString* text);
 void tab(NSWindow* window);
 void backtab(NSWindow* window);
+
+/// Does to whatever is being edited, or to what it lies in, what a menu's item does.
+void choose(NSWindow* window, SEL action);
 
 }  // namespace launcher

@@ -17,31 +17,38 @@ NSWindow* newWindowBesides(NSArray* before) {
 
 LauncherWindowOnScreen::LauncherWindowOnScreen() {
   NSArray* before = [[[NSApp windows] copy] autorelease];
-  [NSBundle loadNibNamed:@"MainMenu" owner:NSApp];
+  NSNib* nib = [[[NSNib alloc] initWithNibNamed:@"MainMenu" bundle:nil] autorelease];
+  [nib instantiateWithOwner:NSApp topLevelObjects:&objects_];
+  [objects_ retain];
   window_ = [newWindowBesides(before) retain];
   finishWork(controller());
+  [NSApp activateIgnoringOtherApps:YES];
   [window_ makeKeyAndOrderFront:nil];
-  eventually([this] { return [window_ isKeyWindow]; });
+  // An application that the system holds back has no key window.
+  eventually([this] { return [window_ isKeyWindow] || ![NSApp isActive]; });
 }
 
 LauncherWindowOnScreen::~LauncherWindowOnScreen() {
   finishWork(controller());
   [window_ orderOut:nil];
   [window_ release];
+  [objects_ release];
 }
 
 ViewController* LauncherWindowOnScreen::controller() const {
   return static_cast<ViewController*>([window_ contentViewController]);
 }
 
-void type(NSWindow* window, NSString* text) {
-  [static_cast<NSTextView*>([window firstResponder]) insertText:text];
-}
+void type(NSWindow* window, NSString* text) { [[window firstResponder] insertText:text]; }
 
-void tab(NSWindow* window) { [static_cast<NSTextView*>([window firstResponder]) insertTab:nil]; }
+void tab(NSWindow* window) { [[window firstResponder] insertTab:nil]; }
 
-void backtab(NSWindow* window) {
-  [static_cast<NSTextView*>([window firstResponder]) insertBacktab:nil];
+void backtab(NSWindow* window) { [[window firstResponder] insertBacktab:nil]; }
+
+void choose(NSWindow* window, SEL action) {
+  settle();
+  [[window firstResponder] tryToPerform:action with:nil];
+  settle();
 }
 
 }  // namespace launcher

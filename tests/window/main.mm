@@ -1,17 +1,17 @@
 #import <AppKit/AppKit.h>
 #include <gtest/gtest.h>
 
-#import "app/gnustep/AppKitLikeness.h"
-#include "app/gnustep/Display.h"
+#include "app/PrepareToolkit.h"
+#include "tests/window/Screen.h"
 
 namespace {
 
 /// Every test shows windows, or has some shown.
-class DisplayEnvironment : public testing::Environment {
+class ScreenEnvironment : public testing::Environment {
   void SetUp() override {
-    if (!launcher::hasDisplay()) GTEST_SKIP() << "no display to show windows on";
-    launcher::installAppKitLikeness();
-    [NSApp finishLaunching];
+    if (!launcher::hasScreen()) GTEST_SKIP() << "no screen to show windows on";
+    launcher::prepareToolkit();
+    [[NSApplication sharedApplication] finishLaunching];
   }
 };
 
@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
   @autoreleasepool {
     testing::InitGoogleTest(&argc, argv);
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    testing::AddGlobalTestEnvironment(new DisplayEnvironment);
+    testing::AddGlobalTestEnvironment(new ScreenEnvironment);
     return RUN_ALL_TESTS();
   }
 }

@@ -4,6 +4,10 @@
 
 #include_next <AppKit/AppKit.h>
 
+// Names that came later.
+#define NSEventMaskAny NSAnyEventMask
+#define NSEventTypeKeyDown NSKeyDown
+
 @class CALayer;
 
 @interface NSView (LayerBacking)

@@ -1,0 +1,29 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+/// Does something while an alert is up.
+@interface DuringAlert : NSObject {
+  std::function<void()> _action;
+  NSTimeInterval _delay;
+}
+
+/// On the main thread, once an alert is up and these seconds have passed.
++ (void)after:(NSTimeInterval)seconds do:(std::function<void()>)action;
+
+@end
+
+namespace launcher {
+
+/// The texts that the alert shows, and its buttons' titles.
+std::vector<std::string> alertTexts();
+
+/// Presses a key in the alert, as a person does.
+void pressReturn();
+void pressEscape();
+
+}  // namespace launcher

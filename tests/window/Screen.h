@@ -1,0 +1,8 @@
+#pragma once
+
+namespace launcher {
+
+/// Whether there is a screen to show windows on.
+bool hasScreen();
+
+}  // namespace launcher

@@ -1,0 +1,15 @@
+#include <CoreGraphics/CoreGraphics.h>
+
+#include "tests/window/Screen.h"
+
+namespace launcher {
+
+/// Who has logged in from elsewhere has none.
+bool hasScreen() {
+  const CFDictionaryRef session = CGSessionCopyCurrentDictionary();
+  if (session == nullptr) return false;
+  CFRelease(session);
+  return true;
+}
+
+}  // namespace launcher
