@@ -5,7 +5,7 @@ import plistlib
 import unittest
 
 from localised import tables
-from product import BUNDLE, CONTENTS, PROGRAM, RESOURCES, ROOT, VIEWER, build
+from product import BUNDLE, CONTENTS, PROGRAM, RESOURCES, ROOT, VIEWER, WINDOW_TESTS, build
 
 LANGUAGES = sorted(table.parent.stem
                    for table in (ROOT / "resources").glob("*.lproj/Localizable.strings"))
@@ -79,6 +79,11 @@ class Bundle(unittest.TestCase):
                 name = table(folder / "Localizable.strings")["Vorx Launcher"]
                 self.assertEqual(table(folder / "InfoPlist.strings"),
                                  {"CFBundleName": name, "CFBundleDisplayName": name})
+
+    def test_window_tests_meet_the_same_resources(self):
+        self.assertEqual((WINDOW_TESTS / "Resources").resolve(), RESOURCES)
+        information = plistlib.loads((WINDOW_TESTS / "Info.plist").read_bytes())
+        self.assertEqual(information["CFBundleExecutable"], "window-tests")
 
     def test_icon(self):
         self.assertEqual((RESOURCES / "VorxLauncher.icns").read_bytes()[:4], b"icns")

@@ -11,7 +11,10 @@ CONTENTS = BUNDLE / "Contents"
 RESOURCES = CONTENTS / "Resources"
 PROGRAM = CONTENTS / "MacOS" / "VorxLauncher"
 VIEWER = RESOURCES / "bin" / "vexlink"
-TEST_PROGRAMS = [BUILD / "tests" / f"{name}-tests" for name in ("unit", "contract")]
+TESTS = BUILD / "tests"
+WINDOW_TESTS = TESTS / "window-tests.app" / "Contents"
+TEST_PROGRAMS = [TESTS / "unit-tests", TESTS / "contract-tests",
+                 WINDOW_TESTS / "MacOS" / "window-tests"]
 
 ARCHITECTURES = ["arm64", "x86_64"]
 

@@ -17,7 +17,7 @@ class GoogleTestSuite:
 
     def run(self):
         build(self._program, preset=self._preset)
-        program = build_folder(self._preset) / "tests" / self._program
+        program = _built(self._preset, self._program)
         with scratch_folder() as folder:
             record = folder / "results.xml"
             command = [str(program), f"--gtest_output=xml:{record}"]
@@ -27,6 +27,13 @@ class GoogleTestSuite:
             else:
                 status, output = execute(command, environment=self._environment)
             return _results(record, self._program, status, output)
+
+
+def _built(preset, name):
+    """Where a program of tests lies: one that shows windows is an application on a Mac."""
+    folder = build_folder(preset) / "tests"
+    application = folder / f"{name}.app" / "Contents" / "MacOS" / name
+    return application if application.exists() else folder / name
 
 
 def _results(record, program, status, output):

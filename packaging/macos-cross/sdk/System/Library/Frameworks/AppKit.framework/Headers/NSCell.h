@@ -32,4 +32,5 @@ FOUNDATION_EXPORT @interface NSActionCell : NSCell
 @end
 
 FOUNDATION_EXPORT @interface NSTextFieldCell : NSActionCell
+@property(copy) NSString* placeholderString;
 @end

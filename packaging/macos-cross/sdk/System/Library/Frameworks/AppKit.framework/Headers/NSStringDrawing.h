@@ -6,6 +6,12 @@ typedef NS_OPTIONS(NSInteger, NSStringDrawingOptions) {
   NSStringDrawingUsesLineFragmentOrigin = 1 << 0,
 };
 
+FOUNDATION_EXPORT const NSAttributedStringKey NSFontAttributeName;
+
+@interface NSString (NSStringDrawing)
+- (NSSize)sizeWithAttributes:(NSDictionary<NSAttributedStringKey, id>*)attributes;
+@end
+
 @interface NSAttributedString (NSStringDrawing)
 - (NSRect)boundingRectWithSize:(NSSize)size options:(NSStringDrawingOptions)options;
 @end

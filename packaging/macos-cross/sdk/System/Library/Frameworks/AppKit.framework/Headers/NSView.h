@@ -8,6 +8,10 @@
 FOUNDATION_EXPORT @interface NSView : NSResponder
 - (instancetype)initWithFrame:(NSRect)frame;
 @property(readonly, assign) NSWindow* window;
+@property(copy) NSArray<__kindof NSView*>* subviews;
+@property NSRect frame;
+@property NSRect bounds;
+@property(getter=isHidden) BOOL hidden;
 @property BOOL wantsLayer;
 @property(retain) CALayer* layer;
 - (void)addSubview:(NSView*)view;

@@ -2,7 +2,11 @@
 
 #import <AppKit/NSView.h>
 
+@class NSViewController;
+
 typedef NSInteger NSWindowLevel;
+static const NSWindowLevel NSNormalWindowLevel = 0;
+static const NSWindowLevel NSFloatingWindowLevel = 3;
 
 typedef NS_OPTIONS(NSUInteger, NSWindowStyleMask) {
   NSWindowStyleMaskTitled = 1 << 0,
@@ -21,7 +25,17 @@ FOUNDATION_EXPORT @interface NSWindow : NSResponder
 @property(getter=isReleasedWhenClosed) BOOL releasedWhenClosed;
 @property NSWindowLevel level;
 @property(retain) NSView* contentView;
+@property(retain) NSViewController* contentViewController;
+@property NSSize contentMinSize;
+@property NSSize contentMaxSize;
+@property(readonly) NSRect frame;
+@property(readonly) NSInteger windowNumber;
+@property(readonly, getter=isKeyWindow) BOOL keyWindow;
+@property(readonly, assign) NSResponder* firstResponder;
 @property(assign) NSView* initialFirstResponder;
 - (void)center;
+- (void)orderFront:(id)sender;
+- (void)orderOut:(id)sender;
+- (void)setFrame:(NSRect)frame display:(BOOL)display;
 - (void)makeKeyAndOrderFront:(id)sender;
 @end

@@ -17,6 +17,7 @@ typedef const void* CFTypeRef;
 typedef const struct __attribute__((objc_bridge(id))) __CFAllocator* CFAllocatorRef;
 typedef const struct __attribute__((objc_bridge(NSArray))) __CFArray* CFArrayRef;
 typedef const struct __attribute__((objc_bridge(NSData))) __CFData* CFDataRef;
+typedef const struct __attribute__((objc_bridge(NSDictionary))) __CFDictionary* CFDictionaryRef;
 typedef const struct __attribute__((objc_bridge(NSString))) __CFString* CFStringRef;
 
 typedef struct {

@@ -30,4 +30,5 @@ typedef int32_t CGWindowLevelKey;
 enum : CGWindowLevelKey { kCGFloatingWindowLevelKey = 5 };
 
 CF_EXPORT CGWindowLevel CGWindowLevelForKey(CGWindowLevelKey key);
+CF_EXPORT CFDictionaryRef CGSessionCopyCurrentDictionary(void);
 CF_EXPORT bool CGColorEqualToColor(CGColorRef a, CGColorRef b);

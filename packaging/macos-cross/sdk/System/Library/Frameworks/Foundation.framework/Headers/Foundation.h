@@ -4,6 +4,7 @@
 #import <Foundation/NSBundle.h>
 #import <Foundation/NSCoder.h>
 #import <Foundation/NSData.h>
+#import <Foundation/NSDate.h>
 #import <Foundation/NSDictionary.h>
 #import <Foundation/NSException.h>
 #import <Foundation/NSFileHandle.h>
@@ -13,7 +14,9 @@
 #import <Foundation/NSOperation.h>
 #import <Foundation/NSPropertyList.h>
 #import <Foundation/NSRegularExpression.h>
+#import <Foundation/NSRunLoop.h>
 #import <Foundation/NSString.h>
 #import <Foundation/NSTask.h>
 #import <Foundation/NSThread.h>
 #import <Foundation/NSURL.h>
+#import <Foundation/NSValue.h>

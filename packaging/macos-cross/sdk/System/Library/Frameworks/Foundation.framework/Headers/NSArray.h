@@ -7,6 +7,7 @@ FOUNDATION_EXPORT @interface NSArray<__covariant ObjectType> : NSObject <NSCopyi
 + (instancetype)arrayWithObjects:(const ObjectType[])objects count:(NSUInteger)count;
 @property(readonly) NSUInteger count;
 @property(readonly) ObjectType firstObject;
+- (BOOL)containsObject:(ObjectType)object;
 - (ObjectType)objectAtIndex:(NSUInteger)index;
 - (ObjectType)objectAtIndexedSubscript:(NSUInteger)index;
 @end

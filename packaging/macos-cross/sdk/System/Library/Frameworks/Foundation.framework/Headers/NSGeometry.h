@@ -2,9 +2,13 @@
 
 #include <CoreGraphics/CoreGraphics.h>
 
+#import <Foundation/NSObject.h>
+
 typedef CGPoint NSPoint;
 typedef CGSize NSSize;
 typedef CGRect NSRect;
+
+FOUNDATION_EXPORT const NSPoint NSZeroPoint;
 
 static inline NSSize NSMakeSize(CGFloat width, CGFloat height) {
   NSSize size = {width, height};

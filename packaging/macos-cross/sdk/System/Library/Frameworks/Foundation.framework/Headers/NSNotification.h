@@ -5,8 +5,10 @@
 @class NSDictionary<KeyType, ObjectType>;
 @class NSString;
 
+typedef NSString* NSNotificationName;
+
 FOUNDATION_EXPORT @interface NSNotification : NSObject
-+ (instancetype)notificationWithName:(NSString*)name object:(id)object;
-@property(readonly, copy) NSString* name;
++ (instancetype)notificationWithName:(NSNotificationName)name object:(id)object;
+@property(readonly, copy) NSNotificationName name;
 @property(readonly, retain) id object;
 @end

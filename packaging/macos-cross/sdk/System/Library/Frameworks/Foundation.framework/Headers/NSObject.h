@@ -2,6 +2,7 @@
 
 #include <Availability.h>
 #include <CoreFoundation/CoreFoundation.h>
+#include <limits.h>
 #include <objc/NSObject.h>
 #include <stdbool.h>
 

@@ -2,9 +2,12 @@
 
 #import <Foundation/NSObject.h>
 
+static const NSInteger NSOperationQueueDefaultMaxConcurrentOperationCount = -1;
+
 FOUNDATION_EXPORT @interface NSOperationQueue : NSObject
 @property(class, readonly, retain) NSOperationQueue* mainQueue;
 - (void)addOperationWithBlock:(void (^)(void))block;
 - (void)waitUntilAllOperationsAreFinished;
 @property NSInteger maxConcurrentOperationCount;
+@property(getter=isSuspended) BOOL suspended;
 @end

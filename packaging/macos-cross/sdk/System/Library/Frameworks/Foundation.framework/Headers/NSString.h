@@ -3,6 +3,7 @@
 #import <Foundation/NSObject.h>
 
 @class NSData;
+@class NSDictionary<KeyType, ObjectType>;
 
 typedef unsigned short unichar;
 
@@ -29,6 +30,8 @@ FOUNDATION_EXPORT @interface NSString : NSObject <NSCopying>
 @property(readonly) const char* fileSystemRepresentation;
 @property(readonly, copy) NSString* decomposedStringWithCanonicalMapping;
 - (unichar)characterAtIndex:(NSUInteger)index;
+- (NSString*)substringFromIndex:(NSUInteger)from;
+- (NSString*)substringToIndex:(NSUInteger)to;
 - (void)getCharacters:(unichar*)buffer range:(NSRange)range;
 - (NSData*)dataUsingEncoding:(NSStringEncoding)encoding;
 - (NSUInteger)lengthOfBytesUsingEncoding:(NSStringEncoding)encoding;
@@ -42,5 +45,9 @@ FOUNDATION_EXPORT @interface NSString : NSObject <NSCopying>
                                              NSRange enclosingRange, BOOL* stop))block;
 @end
 
+typedef NSString* NSAttributedStringKey;
+
 FOUNDATION_EXPORT @interface NSAttributedString : NSObject <NSCopying>
+- (instancetype)initWithString:(NSString*)text
+                    attributes:(NSDictionary<NSAttributedStringKey, id>*)attributes;
 @end

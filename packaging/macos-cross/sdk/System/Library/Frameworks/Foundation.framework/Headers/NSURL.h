@@ -6,6 +6,7 @@
 
 FOUNDATION_EXPORT @interface NSURL : NSObject <NSCopying>
 + (instancetype)URLWithString:(NSString*)text;
++ (NSURL*)fileURLWithPath:(NSString*)path;
 + (NSURL*)fileURLWithPath:(NSString*)path isDirectory:(BOOL)isDirectory;
 @property(readonly, copy) NSString* absoluteString;
 @property(readonly, copy) NSString* scheme;
