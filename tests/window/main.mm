@@ -1,19 +1,15 @@
 #import <AppKit/AppKit.h>
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 #include "app/PrepareToolkit.h"
 #include "tests/window/Screen.h"
 
 namespace {
 
-/// Every test shows windows, or has some shown.
-class ScreenEnvironment : public testing::Environment {
-  void SetUp() override {
-    if (!launcher::hasScreen()) GTEST_SKIP() << "no screen to show windows on";
-    launcher::prepareToolkit();
-    [[NSApplication sharedApplication] finishLaunching];
-  }
-};
+// The exit status that tests/runner takes for a reason to skip the suite.
+constexpr int withoutDisplay = 77;
 
 }  // namespace
 
@@ -21,7 +17,12 @@ int main(int argc, char** argv) {
   @autoreleasepool {
     testing::InitGoogleTest(&argc, argv);
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    testing::AddGlobalTestEnvironment(new ScreenEnvironment);
+    if (!launcher::hasScreen()) {
+      std::puts("no screen to show windows on");
+      return withoutDisplay;
+    }
+    launcher::prepareToolkit();
+    [[NSApplication sharedApplication] finishLaunching];
     return RUN_ALL_TESTS();
   }
 }
