@@ -24,6 +24,15 @@
 namespace launcher {
 namespace {
 
+/// What the handlers were called with. A tool's end may be told after the test's own.
+struct Seen {
+  std::mutex mutex;
+  std::string output;
+  std::thread::id outputThread;
+  std::atomic<std::thread::id> exitThread;
+  std::atomic<int> exits = 0;
+};
+
 /// Runs of a shell script in the tool's place, each watched by handlers of its own.
 class ListingToolTest : public testing::Test {
  protected:
@@ -43,21 +52,21 @@ class ListingToolTest : public testing::Test {
   /// A new run, watched but not started.
   std::shared_ptr<ListingTool> makeTool() {
     auto tool = makeListingToolMaker(bundle_)();
-    tool->setOutputHandler([this](std::string_view bytes) {
-      const std::lock_guard lock(mutex_);
-      output_ += bytes;
-      outputThread_ = std::this_thread::get_id();
+    tool->setOutputHandler([seen = seen_](std::string_view bytes) {
+      const std::lock_guard lock(seen->mutex);
+      seen->output += bytes;
+      seen->outputThread = std::this_thread::get_id();
     });
-    tool->setExitHandler([this] {
-      exitThread_ = std::this_thread::get_id();
-      ++exits_;
+    tool->setExitHandler([seen = seen_] {
+      seen->exitThread = std::this_thread::get_id();
+      ++seen->exits;
     });
     return tool;
   }
 
   std::string output() {
-    const std::lock_guard lock(mutex_);
-    return output_;
+    const std::lock_guard lock(seen_->mutex);
+    return seen_->output;
   }
 
   bool eventuallyPrinted(const std::string& text) {
@@ -65,16 +74,12 @@ class ListingToolTest : public testing::Test {
   }
 
   bool eventuallyExited(int times = 1) {
-    return eventually([&] { return exits_ == times; });
+    return eventually([&] { return seen_->exits == times; });
   }
 
   const ScratchFolder folder_;
   FakeBundle bundle_;
-  std::mutex mutex_;
-  std::string output_;
-  std::thread::id outputThread_;
-  std::atomic<std::thread::id> exitThread_;
-  std::atomic<int> exits_ = 0;
+  const std::shared_ptr<Seen> seen_ = std::make_shared<Seen>();
 };
 
 TEST_F(ListingToolTest, AsksForAPropertyList) {
@@ -100,16 +105,16 @@ TEST_F(ListingToolTest, CallsTheHandlersOnOtherThreads) {
   ASSERT_TRUE(eventuallyPrinted("a\n"));
   ASSERT_TRUE(eventuallyExited());
   tool->setOutputHandler({});
-  EXPECT_NE(outputThread_, std::this_thread::get_id());
-  EXPECT_NE(exitThread_.load(), std::this_thread::get_id());
-  EXPECT_NE(exitThread_.load(), outputThread_);
+  EXPECT_NE(seen_->outputThread, std::this_thread::get_id());
+  EXPECT_NE(seen_->exitThread.load(), std::this_thread::get_id());
+  EXPECT_NE(seen_->exitThread.load(), seen_->outputThread);
 }
 
 TEST_F(ListingToolTest, NoHandlerIsCalledBeforeTheLaunch) {
   script("echo a");
   const auto tool = makeTool();
   EXPECT_EQ(output(), "");
-  EXPECT_EQ(exits_, 0);
+  EXPECT_EQ(seen_->exits, 0);
 }
 
 TEST_F(ListingToolTest, ManyPiecesComeInTheirOrder) {
@@ -200,7 +205,7 @@ TEST_F(ListingToolTest, AGrandchildThatHoldsTheOutputOpenIsNotAwaited) {
 TEST_F(ListingToolTest, HowTheToolEndsDoesNotCount) {
   for (const char* commands : {"exit 0", "exit 1", "kill -9 $$", "kill -TERM $$"}) {
     script(commands);
-    exits_ = 0;
+    seen_->exits = 0;
     const auto tool = makeTool();
     ASSERT_TRUE(tool->launch()) << commands;
     tool->waitUntilExit();
@@ -217,7 +222,7 @@ TEST_F(ListingToolTest, WhatCannotBeStartedCallsNobody) {
   EXPECT_FALSE(makeTool()->launch()) << "no resources";
   EXPECT_TRUE(eventually([&] { return OwnResources() == before; }));
   EXPECT_EQ(output(), "");
-  EXPECT_EQ(exits_, 0);
+  EXPECT_EQ(seen_->exits, 0);
 }
 
 /// Lets this process open nothing more for a while.
@@ -244,7 +249,7 @@ TEST_F(ListingToolTest, WithoutDescriptorsItCannotBeStarted) {
     EXPECT_FALSE(tool->launch());
   }
   EXPECT_EQ(output(), "");
-  EXPECT_EQ(exits_, 0);
+  EXPECT_EQ(seen_->exits, 0);
 }
 
 TEST_F(ListingToolTest, LeavesNothingBehind) {
