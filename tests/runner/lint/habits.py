@@ -11,11 +11,13 @@ import subprocess
 
 from lint.arrows import includes
 from lint.tool import check_each, check_with
-from project import BUILD, ROOT, configure
+from project import BUILD, ROOT, build_folder, configure
 from report import PASSED, Result
 
 LISTS = [ROOT / ".clang-tidy", ROOT / "tests" / ".clang-tidy"]
-REMEMBERED = BUILD / "lint"
+PRESET = "lint"
+COMMANDS = build_folder(PRESET)
+REMEMBERED = COMMANDS / "passed"
 
 
 def _reached(path, seen):
@@ -43,7 +45,7 @@ def _check(path, fingerprint):
     mark = REMEMBERED / fingerprint
     if mark.exists():
         return Result(f"clang-tidy {path.relative_to(ROOT)}", PASSED)
-    result = check_with(["clang-tidy", "--quiet", f"-p={BUILD}"], path)
+    result = check_with(["clang-tidy", "--quiet", f"-p={COMMANDS}"], path)
     if result.outcome == PASSED:
         mark.touch()
     return result
@@ -51,14 +53,14 @@ def _check(path, fingerprint):
 
 def _compiled():
     """Our own files that the build compiles, each with its compile command."""
-    for entry in json.loads((BUILD / "compile_commands.json").read_text()):
+    for entry in json.loads((COMMANDS / "compile_commands.json").read_text()):
         path = pathlib.Path(entry["file"]).resolve()
         if path.is_relative_to(ROOT) and not path.is_relative_to(BUILD):
             yield path, entry["command"]
 
 
 def check():
-    configure()
+    configure(PRESET)
     REMEMBERED.mkdir(exist_ok=True)
     version = subprocess.run(["clang-tidy", "--version"], stdout=subprocess.PIPE).stdout
     habits = version + b"".join(path.read_bytes() for path in LISTS)
