@@ -19,6 +19,11 @@ class LayoutTest : public testing::Test {
     return [[static_cast<NSTextFieldCell*>([field cell]) placeholderString] UTF8String];
   }
 
+  /// A text of the layout in the language of whoever runs the tests.
+  static std::string localised(NSString* text) {
+    return [[[NSBundle mainBundle] localizedStringForKey:text value:nil table:nil] UTF8String];
+  }
+
   ViewController* controller_ = loadedController();
 };
 
@@ -38,8 +43,9 @@ TEST_F(LayoutTest, MakesTheControllerTheFieldsDelegateAndTheButtonsTarget) {
 
 TEST_F(LayoutTest, OffersNoLaunchBeforeTheFirstEvaluation) {
   EXPECT_FALSE([[controller_ launchButton] isEnabled]);
-  EXPECT_STREQ([[[controller_ launchButton] title] UTF8String], "Launch");
-  EXPECT_EQ(textOf([controller_ infoLabel]), "Enter valid Vorx location to enable launch button");
+  EXPECT_EQ([[[controller_ launchButton] title] UTF8String], localised(@"Launch"));
+  EXPECT_EQ(textOf([controller_ infoLabel]),
+            localised(@"Enter valid Vorx location to enable launch button"));
   EXPECT_EQ(textOf([controller_ vorxLocation]), "");
   EXPECT_EQ(textOf([controller_ ipAddress]), "");
 }
