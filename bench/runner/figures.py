@@ -4,6 +4,7 @@ import dataclasses
 import statistics
 
 OURS, FLOOR = "ours", "floor"
+RATIO = "ours to floor"
 
 
 class Unavailable(Exception):
@@ -12,14 +13,14 @@ class Unavailable(Exception):
 
 @dataclasses.dataclass
 class Aim:
-    """What is aimed at: a text, and a test that is given the typical values by name and answers
-    whether the aim is met."""
+    """What is aimed at: a text, and a test that is given the typical values by name, the ratio of
+    ours to the floor among them, and answers whether the aim is met."""
     text: str
     test: object
 
 
-def at_most(factor, of=FLOOR):
-    return Aim(f"at most {factor} × {of}", lambda typical: typical[OURS] <= factor * typical[of])
+def at_most(factor):
+    return Aim(f"at most {factor} × floor", lambda typical: typical[RATIO] <= factor)
 
 
 def at_most_above(amount, unit):
@@ -34,7 +35,7 @@ def under(limit, unit):
 def ahead_of(*names, factor=1):
     """Ahead of the peers named, or of all where none is."""
     def test(typical):
-        peers = names or [name for name in typical if name not in (OURS, FLOOR)]
+        peers = names or [name for name in typical if name not in (OURS, FLOOR, RATIO)]
         return all(factor * typical[OURS] < typical[peer] for peer in peers if peer in typical)
 
     times = "" if factor == 1 else f"{factor} × "
@@ -65,7 +66,7 @@ class Figure:
                 "floor": typical.get(FLOOR), "peers": peers, "missing": self.missing,
                 "ratio": ratio, "spread": spread,
                 "aim": "; ".join(aim.text for aim in self.aims),
-                "met": [_is_met(aim, typical) for aim in self.aims]}
+                "met": [_is_met(aim, typical, ratio) for aim in self.aims]}
 
 
 def failed_row(what, reason):
@@ -74,7 +75,9 @@ def failed_row(what, reason):
             "missing": {OURS: reason}, "ratio": None, "spread": None, "aim": "", "met": []}
 
 
-def _is_met(aim, typical):
+def _is_met(aim, typical, ratio):
+    if ratio is not None:
+        typical = {**typical, RATIO: ratio}
     try:
         return bool(aim.test(typical))
     except KeyError:

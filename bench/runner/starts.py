@@ -20,7 +20,7 @@ PEERS = {
     "remmina": ["remmina"],
     "tigervnc": ["xtigervncviewer"],
 }
-WARM_ROUNDS, COLD_ROUNDS = 8, 3
+WARM_ROUNDS, COLD_ROUNDS = 24, 5
 DROP_CACHES = pathlib.Path("/proc/sys/vm/drop_caches")
 
 

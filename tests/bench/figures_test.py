@@ -37,6 +37,11 @@ class FiguresTest(unittest.TestCase):
             with self.subTest(aim=aim.text):
                 self.assertEqual(row(values, aim)["met"], [met])
 
+    def test_a_share_of_the_floor_is_judged_by_the_ratio_that_is_shown(self):
+        values = {OURS: [10.0, 20.0, 30.0], FLOOR: [10.0, 20.0, 10.0]}
+        self.assertEqual(row(values, at_most(1))["met"], [True])
+        self.assertEqual(row(values, at_most(0.99))["met"], [False])
+
     def test_an_aim_without_its_floor_is_undecided(self):
         self.assertEqual(row({OURS: [10.0]}, at_most(1.05))["met"], [None])
 
