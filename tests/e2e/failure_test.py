@@ -26,12 +26,6 @@ class FailureTest(LauncherTest):
         self.enter("vorxLocation", "https://server.example")
         self.wait_for_status(READY)
 
-    def test_the_launcher_quits_while_the_alert_is_up(self):
-        self.fail_to_look_up()
-        self.wait_for_alert()
-        self.launcher.terminate()
-        self.assertEqual(self.launcher.wait(timeout=60), 0)
-
     def test_closing_the_alert_leaves_the_launcher(self):
         self.fail_to_look_up()
         self.wait_for_alert().close()
