@@ -54,5 +54,5 @@ endforeach()
 
 if(NOT IBTOOL)
   message(STATUS "No ibtool here: the bundle gets no layout resources and cannot start")
-  bundle_files(Resources "${CMAKE_SOURCE_DIR}/packaging/macos-cross/NOT-FOR-RELEASE.txt")
+  bundle_files(Resources "${CMAKE_SOURCE_DIR}/packaging/mac/cross/NOT-FOR-RELEASE.txt")
 endif()

@@ -7,7 +7,7 @@
 
 #import "app/gnustep/Methods.h"
 #include "bench/stage/Clock.h"
-#import "controller/ViewController.h"
+#import "controller/mac/ViewController.h"
 
 @interface ViewController (ViewLoaded)
 @end

@@ -19,7 +19,7 @@ esac
 
 case "$(uname -s)" in
   Linux) platform=linux ;;
-  Darwin) platform=macos ;;
+  Darwin) platform=mac ;;
   *) fail "this system is neither Linux nor macOS" ;;
 esac
 # shellcheck disable=SC2034  # the sourcing scripts read it

@@ -4,9 +4,9 @@
 
 #include "base/Text.h"
 #include "discovery/PropertyList.h"
-#include "discovery/attached-images/AttachedImageList.h"
-#include "discovery/attached-images/ListingText.h"
-#include "discovery/attached-images/MountTable.h"
+#include "discovery/linux/attached-images/AttachedImageList.h"
+#include "discovery/linux/attached-images/ListingText.h"
+#include "discovery/linux/attached-images/MountTable.h"
 #include "tests/fuzz/Fuzzing.h"
 
 using namespace launcher;

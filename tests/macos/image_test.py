@@ -8,7 +8,7 @@ import unittest
 
 from product import BUNDLE, ROOT, VIEWER, build, output_of
 
-MAKE_IMAGE = ROOT / "packaging" / "macos" / "make-image"
+MAKE_IMAGE = ROOT / "packaging" / "mac" / "make-image"
 
 
 def setUpModule():

@@ -1,11 +1,11 @@
-"""What the macos-cross preset builds, and where it lies."""
+"""What the mac-cross preset builds, and where it lies."""
 
 import functools
 import pathlib
 import subprocess
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-BUILD = ROOT / "build" / "macos-cross"
+BUILD = ROOT / "build" / "mac-cross"
 BUNDLE = BUILD / "VorxLauncher.app"
 CONTENTS = BUNDLE / "Contents"
 RESOURCES = CONTENTS / "Resources"
@@ -31,5 +31,5 @@ def output_of(*command):
 @functools.cache
 def build():
     """Brings everything up to date; in one run of the tests, once."""
-    output_of("cmake", "--preset", "macos-cross")
-    output_of("cmake", "--build", "--preset", "macos-cross")
+    output_of("cmake", "--preset", "mac-cross")
+    output_of("cmake", "--build", "--preset", "mac-cross")

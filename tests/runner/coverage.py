@@ -9,7 +9,7 @@ from project import ROOT, build, build_folder, sources
 
 PRESET = "coverage"
 PROGRAMS = ("unit-tests", "contract-tests")
-LOGIC = ("base", "net", "net/links", "process", "discovery", "discovery/attached-images", "controller")
+LOGIC = ("base", "net", "process", "discovery", "controller")
 
 
 def _program(name):
@@ -41,7 +41,7 @@ def _measured():
 def main(*files):
     build(*PROGRAMS, preset=PRESET)
     verb = ["show", "--show-branches=count"] if files else ["report", "--show-region-summary=0"]
-    logic = [str(path) for room in LOGIC for path in sources(f"{room}/*.cpp")]
+    logic = [str(path) for room in LOGIC for path in sources(f"{room}/*.cpp", f"{room}/linux/**/*.cpp")]
     subprocess.run(["llvm-cov-14", *verb, f"--instr-profile={_measured()}", _program(PROGRAMS[0]),
                     f"--object={_program(PROGRAMS[1])}",
                     *([str(ROOT / file) for file in files] or logic)], check=True)

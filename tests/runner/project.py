@@ -6,7 +6,7 @@ import subprocess
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = ROOT / "build"
-PRESET = "macos" if platform.system() == "Darwin" else "linux"
+PRESET = "mac" if platform.system() == "Darwin" else "linux"
 
 
 def sources(*patterns):

@@ -1,21 +1,34 @@
-"""Includes run one way between the rooms, and the logic sees no window toolkit."""
+"""Every file lies in the room and the platform's folder that it belongs to, and includes run one way.
+
+A room's own files are logic: they know neither platform nor toolkit. What only one system has lies in
+the room's folder for it, and nothing but what wires the parts together includes from there.
+"""
 
 import re
 
 from project import ROOT, cxx_sources
 from report import FAILED, PASSED, Result
 
-LOGIC = ["base", "process", "net", "discovery", "controller"]
+PLATFORMS = {"linux", "mac"}
 MAY_INCLUDE = {
     "base": ["base"],
     "process": ["base", "process"],
     "net": ["base", "net"],
     "discovery": ["base", "discovery"],
-    "controller": LOGIC,
+    "controller": ["base", "process", "net", "discovery", "controller"],
+    "app": ["base", "process", "net", "discovery", "controller", "app"],
+    "viewer": ["viewer"],
 }
-TOOLKIT = re.compile(r"(AppKit|Cocoa|CoreFoundation|CoreServices|CFNetwork|Foundation|GNUstep\w*|"
-                     r"QuartzCore|objc|X11)/")
-PLATFORM_FILE = re.compile(r"_(mac|linux|gnustep)\.(h|cpp)$")
+STAND_INS = ("app/gnustep", "app/desktop")  # the other platform's toolkit on this one
+
+# What tells whose a header of the system is.
+SYSTEM_HEADERS = {
+    "mac": re.compile(r"(AppKit|Cocoa|CoreFoundation|CoreGraphics|CoreServices|CFNetwork|Foundation|"
+                      r"QuartzCore|dispatch|mach|objc)/|sys/sysctl\.h$"),
+    "linux": re.compile(r"(Q[A-Z]\w*|X11|gio|glib|linux|qt\w*|unicode)(/|$)|(expat|libpsl)\.h$|"
+                        r"sys/(epoll|inotify|pidfd|prctl|signalfd|sysmacros)\.h$"),
+}
+SUFFIX = re.compile(r"_(mac|linux|gnustep|foundation)(Test)?\.\w+$")
 INCLUDE = re.compile(r'^\s*#\s*(include|import)\s*[<"]([^>"]+)[>"]', re.MULTILINE)
 
 
@@ -24,32 +37,49 @@ def includes(path):
     return [name for _, name in INCLUDE.findall(path.read_text())]
 
 
-def is_toolkit(path):
-    """Whether a file is Objective-C++ or one platform's own."""
-    return (path.suffix == ".mm" or PLATFORM_FILE.search(path.name) is not None
-            or "#import" in path.read_text())
+def platform_of(parts):
+    """Whose folder a path lies in; None for what both platforms share."""
+    return next((part for part in parts if part in PLATFORMS), None)
 
 
-def _faults(path):
-    room = path.relative_to(ROOT).parts[0]
-    if room not in LOGIC:
-        return
-    for name in includes(path):
-        other = ROOT / name
-        if other.exists() and name.split("/")[0] not in MAY_INCLUDE[room]:
-            yield f"{room}/ must not include {name}"
-        if is_toolkit(path):
+def _misplaced(path, parts):
+    platform = platform_of(parts)
+    if SUFFIX.search(path.name):
+        yield "a platform is a folder, not a suffix"
+    if platform != "mac" and (path.suffix == ".mm" or "#import" in path.read_text()):
+        yield "Objective-C++ belongs into a mac/ folder"
+    for owner, headers in SYSTEM_HEADERS.items():
+        for name in includes(path):
+            if headers.match(name) and platform != owner:
+                yield f"<{name}> belongs into a {owner}/ folder"
+
+
+def _wrong_arrows(parts, names):
+    room, platform = parts[0], platform_of(parts)
+    for name in names:
+        if not (ROOT / name).exists():
             continue
-        if TOOLKIT.match(name):
-            yield f"the logic must not include <{name}>"
-        if other.exists() and other.suffix == ".h" and "#import" in other.read_text():
-            yield f"the logic must not include {name}, a header of the window toolkit"
+        target = name.split("/")
+        if target[0] not in MAY_INCLUDE[room]:
+            yield f"{room}/ must not include {name}"
+        owner = platform_of(target)
+        if owner is not None and owner != platform:
+            yield f"{name} is the {owner} platform's own"
+
+
+def faults(path):
+    """What is wrong with a product file's place and its includes, a line each."""
+    relative = path.relative_to(ROOT)
+    parts = relative.parts
+    if parts[0] not in MAY_INCLUDE or str(relative).startswith(STAND_INS):
+        return []
+    return [*_misplaced(path, parts), *_wrong_arrows(parts, includes(path))]
 
 
 def check():
     results = []
     for path in cxx_sources():
-        faults = list(_faults(path))
-        name = f"includes of {path.relative_to(ROOT)}"
-        results.append(Result(name, FAILED if faults else PASSED, "\n".join(faults)))
+        found = faults(path)
+        name = f"place and includes of {path.relative_to(ROOT)}"
+        results.append(Result(name, FAILED if found else PASSED, "\n".join(found)))
     return results

@@ -1,0 +1,26 @@
+#import "app/mac/AppDelegate.h"
+
+#include <csignal>
+
+#include "app/QuitSequence.h"
+#include "app/mac/Services.h"
+
+@implementation AppDelegate
+
+- (instancetype)init {
+  return [super init];
+}
+
+- (void)applicationDidFinishLaunching:(NSNotification*)notification {
+}
+
+- (void)applicationWillTerminate:(NSNotification*)notification {
+  launcher::quitSequence(launcher::LaunchControl::sharedInstance(), *launcher::services().processes,
+                         kill);
+}
+
+- (BOOL)applicationShouldTerminateAfterLastWindowClosed:(NSApplication*)application {
+  return YES;
+}
+
+@end

@@ -1,0 +1,8 @@
+#include "app/mac/PrepareToolkit.h"
+
+namespace launcher {
+
+/// AppKit is ready as it is.
+void prepareToolkit() {}
+
+}  // namespace launcher

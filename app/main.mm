@@ -1,9 +1,0 @@
-#import <AppKit/AppKit.h>
-
-#include "app/PrepareToolkit.h"
-
-int main(int argc, const char** argv) {
-  launcher::prepareToolkit();
-  NSApplicationMain(argc, argv);
-  return 0;
-}

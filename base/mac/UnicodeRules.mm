@@ -1,0 +1,28 @@
+#include "base/UnicodeRules.h"
+#include "base/Text.h"
+#import "base/mac/Conversions.h"
+
+namespace launcher {
+
+/// Foundation's composed character sequences are the clusters; whether they keep a line end of two
+/// units together is not documented, hence the look at the pair.
+std::size_t graphemeClusterCount(std::u16string_view units) {
+  @autoreleasepool {
+    NSString* text = toToolkit(units);
+    std::size_t count = 0;
+    for (std::size_t at = 0; at < units.size();) {
+      const bool endsLine = at > 0 && units.substr(at - 1, 2) == u"\r\n";
+      if (!endsLine) ++count;
+      at = NSMaxRange([text rangeOfComposedCharacterSequenceAtIndex:at]);
+    }
+    return count;
+  }
+}
+
+std::u16string decomposition(std::u16string_view units) {
+  @autoreleasepool {
+    return utf16(fromToolkit([toToolkit(units) decomposedStringWithCanonicalMapping]));
+  }
+}
+
+}  // namespace launcher

@@ -1,0 +1,54 @@
+# A room is a folder with a library of its own, launcher_NAME. What it asks of the system is answered
+# in the folder's mac/ or linux/. Nothing else chooses between the platforms.
+
+if(APPLE)
+  set(PLATFORM mac)
+else()
+  set(PLATFORM linux)
+endif()
+
+# Makes a library of this folder's sources and of what lies in its platform's folder.
+#
+#   launcher_room(NAME [USES ROOM...])
+#
+# A platform's folder that has a CMakeLists.txt says itself what becomes of its sources, as a rule
+# with launcher_sources(NAME) and the libraries that they need.
+function(launcher_room name)
+  cmake_parse_arguments(PARSE_ARGV 1 room "" "" "USES")
+  file(GLOB sources CONFIGURE_DEPENDS *.cpp *.mm)
+  add_library(launcher_${name} STATIC ${sources})
+  target_include_directories(launcher_${name} PUBLIC "${CMAKE_SOURCE_DIR}")
+  list(TRANSFORM room_USES PREPEND launcher_)
+  target_link_libraries(launcher_${name} PUBLIC ${room_USES} PRIVATE launcher_warnings)
+
+  if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${PLATFORM}/CMakeLists.txt")
+    add_subdirectory(${PLATFORM})
+  else()
+    launcher_sources(${name} ${PLATFORM}/)
+  endif()
+endfunction()
+
+# Adds a folder's sources to a room's library; without a folder, those of this one.
+#
+#   launcher_sources(NAME [FOLDER/...])
+function(launcher_sources name)
+  set(folders ${ARGN})
+  if(NOT folders)
+    set(folders "./")
+  endif()
+  foreach(folder IN LISTS folders)
+    file(GLOB sources CONFIGURE_DEPENDS ${folder}*.cpp ${folder}*.mm)
+    target_sources(launcher_${name} PRIVATE ${sources})
+  endforeach()
+endfunction()
+
+# The tests of a folder that are for this platform: all but the other one's.
+#
+#   launcher_tests(VARIABLE FOLDER)
+function(launcher_tests variable folder)
+  file(GLOB_RECURSE tests CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.mm)
+  set(others linux mac)
+  list(REMOVE_ITEM others ${PLATFORM})
+  list(FILTER tests EXCLUDE REGEX "/(${others}|children)/")
+  set(${variable} ${tests} PARENT_SCOPE)
+endfunction()

@@ -1,0 +1,24 @@
+#import <Foundation/Foundation.h>
+
+#import "base/mac/Conversions.h"
+#include "controller/Translations.h"
+
+namespace launcher {
+namespace {
+
+class BundleTranslations : public Translations {
+ public:
+  std::string operator()(const Text& text) const override {
+    @autoreleasepool {
+      return fromToolkit([[NSBundle mainBundle] localizedStringForKey:toToolkit(text.key)
+                                                                value:@""
+                                                                table:nil]);
+    }
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<Translations> makeTranslations() { return std::make_unique<BundleTranslations>(); }
+
+}  // namespace launcher

@@ -1,0 +1,87 @@
+#include "discovery/linux/BinaryObjects.h"
+
+#include "discovery/linux/PropertyListForms.h"
+
+namespace launcher {
+namespace {
+
+constexpr std::size_t kHeaderSize = 8;
+constexpr std::size_t kTrailerSize = 32;
+
+/// Whether a field of that many bytes can hold a number.
+bool canHold(std::uint64_t fieldSize, std::uint64_t value) {
+  return fieldSize >= sizeof(value) || value >> (8U * fieldSize) == 0;
+}
+
+}  // namespace
+
+std::uint64_t bigEndian(std::string_view bytes) {
+  std::uint64_t value = 0;
+  for (const char byte : bytes) value = value << 8U | static_cast<unsigned char>(byte);
+  return value;
+}
+
+BinaryObject::BinaryObject(std::string_view rest) : rest_(rest) {
+  const std::uint64_t marker = bigEndian(take(1));
+  kind_ = static_cast<ObjectKind>(marker >> 4U);
+  low_ = marker & 0xFU;
+}
+
+std::uint64_t BinaryObject::takeCount() {
+  if (low_ != 0xF) return low_;
+  const std::uint64_t marker = bigEndian(take(1));
+  if (static_cast<ObjectKind>(marker >> 4U) != ObjectKind::integer) {
+    throw UnreadableList("a count that is no number");
+  }
+  return bigEndian(take(std::uint64_t{1} << (marker & 0xFU)));
+}
+
+std::string_view BinaryObject::take(std::uint64_t count, std::uint64_t size) {
+  if (count > rest_.size() / size) throw UnreadableList("an object is cut off");
+  const std::string_view items = rest_.substr(0, count * size);
+  rest_.remove_prefix(items.size());
+  return items;
+}
+
+ObjectTable::ObjectTable(std::string_view bytes) {
+  if (bytes.size() <= kHeaderSize + kTrailerSize) throw UnreadableList("the list is cut off");
+  const std::size_t end = bytes.size() - kTrailerSize;
+  const std::string_view trailer = bytes.substr(end);
+  offsetSize_ = bigEndian(trailer.substr(6, 1));
+  referenceSize_ = bigEndian(trailer.substr(7, 1));
+  count_ = bigEndian(trailer.substr(8, 8));
+  top_ = bigEndian(trailer.substr(16, 8));
+  const std::uint64_t start = bigEndian(trailer.substr(24, 8));
+  if (start <= kHeaderSize || start >= end) throw UnreadableList("the table lies outside");
+  objects_ = bytes.substr(0, start);
+  offsets_ = bytes.substr(start, end - start);
+  check();
+}
+
+BinaryObject ObjectTable::object(std::uint64_t reference) const {
+  if (reference >= count_) throw UnreadableList("a reference to no object");
+  const std::uint64_t offset = offsetAt(reference);
+  if (offset < kHeaderSize) throw UnreadableList("an object lies outside");
+  return BinaryObject(objects_.substr(offset));
+}
+
+void ObjectTable::check() const {
+  if (offsetSize_ == 0 || referenceSize_ == 0) throw UnreadableList("a field without a size");
+  if (offsets_.size() % offsetSize_ != 0 || offsets_.size() / offsetSize_ != count_) {
+    throw UnreadableList("the table has another size");
+  }
+  checkMemory(valueMemory(0) * count_);
+  if (top_ >= count_) throw UnreadableList("there is no outermost value");
+  if (!canHold(referenceSize_, count_) || !canHold(offsetSize_, objects_.size())) {
+    throw UnreadableList("a field is too small");
+  }
+  for (std::uint64_t index = 0; index < count_; ++index) {
+    if (offsetAt(index) >= objects_.size()) throw UnreadableList("an object lies outside");
+  }
+}
+
+std::uint64_t ObjectTable::offsetAt(std::uint64_t index) const {
+  return bigEndian(offsets_.substr(index * offsetSize_, offsetSize_));
+}
+
+}  // namespace launcher

@@ -1,0 +1,139 @@
+#include "discovery/ListingTool.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <exception>
+#include <optional>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+#include "base/linux/Spawn.h"
+
+namespace launcher {
+namespace {
+
+/// A descriptor that closes itself; not inherited by programs.
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {
+    if (number == -1) throw std::system_error(errno, std::generic_category());
+  }
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  Descriptor& operator=(Descriptor&&) = delete;
+  ~Descriptor() {
+    if (number_ != -1) close(number_);
+  }
+
+  int number() const { return number_; }
+
+ private:
+  int number_;
+};
+
+struct Pipe {
+  Descriptor readEnd;
+  Descriptor writeEnd;
+
+  static Pipe make() {
+    std::array<int, 2> ends{-1, -1};
+    if (pipe2(ends.data(), O_CLOEXEC) == -1) {
+      throw std::system_error(errno, std::generic_category());
+    }
+    return {Descriptor(ends[0]), Descriptor(ends[1])};
+  }
+};
+
+/// A thread that hands on what comes out of a pipe, until its end or until it is told to stop: the
+/// pipe ends only when every program that inherited it has, the tool's own children among them.
+class OutputReader {
+ public:
+  OutputReader(Descriptor pipe, ListingTool::OutputHandler handler)
+      : pipe_(std::move(pipe)), handler_(std::move(handler)), thread_([this] { run(); }) {}
+  OutputReader(const OutputReader&) = delete;
+  OutputReader& operator=(const OutputReader&) = delete;
+
+  /// No call of the handler is under way once this is done, and none follows.
+  ~OutputReader() {
+    eventfd_write(stop_.number(), 1);
+    thread_.join();
+  }
+
+ private:
+  void run() {
+    std::array<char, 65536> buffer{};
+    while (awaitOutput()) {
+      const ssize_t size = read(pipe_.number(), buffer.data(), buffer.size());
+      if (size == 0 || (size < 0 && errno != EINTR)) return;
+      if (size > 0) handler_({buffer.data(), static_cast<std::size_t>(size)});
+    }
+  }
+
+  /// False once the reader is told to stop.
+  bool awaitOutput() const {
+    std::array<pollfd, 2> events{{{pipe_.number(), POLLIN, 0}, {stop_.number(), POLLIN, 0}}};
+    while (poll(events.data(), events.size(), -1) == -1 && errno == EINTR) {
+    }
+    return events[1].revents == 0;
+  }
+
+  Descriptor pipe_;
+  Descriptor stop_{eventfd(0, EFD_CLOEXEC)};
+  ListingTool::OutputHandler handler_;
+  std::thread thread_;
+};
+
+class AttachedImagesTool : public ListingTool {
+ public:
+  explicit AttachedImagesTool(std::string path) : path_(std::move(path)) {}
+
+  void setOutputHandler(OutputHandler handler) override {
+    if (!handler) reader_.reset();
+    outputHandler_ = std::move(handler);
+  }
+
+  void setExitHandler(ExitHandler handler) override { exitHandler_ = std::move(handler); }
+
+  bool launch() override try {
+    Pipe pipe = Pipe::make();
+    if (outputHandler_) {
+      reader_ = std::make_unique<OutputReader>(std::move(pipe.readEnd), std::move(outputHandler_));
+    }
+    child_ = spawn({.path = path_,
+                    .arguments = {"info", "-plist"},
+                    .output = pipe.writeEnd.number(),
+                    .onExit = std::move(exitHandler_)});
+    if (child_ == nullptr) reader_.reset();
+    return child_ != nullptr;
+  } catch (const std::exception&) {
+    return false;
+  }
+
+  void waitUntilExit() override { child_->waitUntilExit(); }
+
+ private:
+  std::string path_;
+  OutputHandler outputHandler_;
+  ExitHandler exitHandler_;
+  std::shared_ptr<SpawnedChild> child_;
+  std::unique_ptr<OutputReader> reader_;
+};
+
+}  // namespace
+
+ListingToolMaker makeListingToolMaker(const ApplicationBundle& bundle) {
+  return [&bundle] {
+    const std::optional<std::string> resources = bundle.resourcePath();
+    return std::make_shared<AttachedImagesTool>(resources ? *resources + "/bin/attached-images"
+                                                          : "");
+  };
+}
+
+}  // namespace launcher

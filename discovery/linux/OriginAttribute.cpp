@@ -1,0 +1,68 @@
+#include "discovery/OriginAttribute.h"
+
+#include <linux/limits.h>
+#include <sys/xattr.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <optional>
+#include <span>
+
+#include "base/Text.h"
+#include "discovery/linux/XmlText.h"
+
+namespace launcher {
+namespace {
+
+/// The attribute as a copy from macOS carries it.
+constexpr const char* kWhereFroms = "user.com.apple.metadata:kMDItemWhereFroms";
+
+/// What downloaders on Linux record: the address itself.
+constexpr const char* kOriginUrl = "user.xdg.origin.url";
+
+/// The attribute's bytes, or absent. The kernel keeps none larger than the buffer.
+std::optional<std::string> attributeValue(const std::string& path, const char* name) {
+  std::array<char, XATTR_SIZE_MAX> buffer{};
+  const ssize_t size = getxattr(path.c_str(), name, buffer.data(), buffer.size());
+  if (size < 0) return std::nullopt;
+  return std::string(buffer.data(), static_cast<std::size_t>(size));
+}
+
+/// Whether a list can hold it: an address has no control characters, and a list is UTF-8.
+bool isAddress(std::string_view text) {
+  return !text.empty() && isUtf8(text) &&
+         std::none_of(text.begin(), text.end(), [](unsigned char c) { return c < ' '; });
+}
+
+/// The list that another system would have recorded, or absent.
+std::optional<std::string> originList(const std::string& path) {
+  const std::optional<std::string> address = attributeValue(path, kOriginUrl);
+  if (!address || !isAddress(*address)) return std::nullopt;
+  return xmlPropertyList("<array><string>" + xmlText(*address) + "</string></array>");
+}
+
+std::ptrdiff_t copied(std::string_view bytes, std::byte* buffer, std::size_t size) {
+  if (size == 0) return std::ssize(bytes);
+  if (size < bytes.size()) return -1;
+  std::ranges::copy(std::as_bytes(std::span(bytes)), buffer);
+  return std::ssize(bytes);
+}
+
+class ExtendedAttributes : public OriginAttribute {
+ public:
+  std::ptrdiff_t read(const std::string& path, std::byte* buffer, std::size_t size) const override {
+    const ssize_t length = getxattr(path.c_str(), kWhereFroms, buffer, size);
+    if (length >= 0 || errno != ENODATA) return length;
+    const std::optional<std::string> list = originList(path);
+    return list ? copied(*list, buffer, size) : -1;
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<OriginAttribute> makeOriginAttribute() {
+  return std::make_unique<ExtendedAttributes>();
+}
+
+}  // namespace launcher

@@ -1,0 +1,56 @@
+#include "discovery/linux/attached-images/AttachedImageList.h"
+
+#include <string_view>
+#include <unordered_map>
+
+namespace launcher {
+namespace {
+
+std::string pathOf(const BlockDevice& device) { return "/dev/" + device.name; }
+
+/// Where each device is mounted, by its path.
+class MountPoints {
+ public:
+  MountPoints(const std::vector<LoopDevice>& loops, const std::vector<Mount>& mounts) {
+    for (const LoopDevice& loop : loops) {
+      for (const BlockDevice& device : loop.devices) paths_.emplace(device.number, pathOf(device));
+    }
+    for (const Mount& mount : mounts) {
+      const auto known = paths_.find(mount.number);
+      const std::string& path = known == paths_.end() ? mount.source : known->second;
+      mountPoints_[path].push_back(mount.mountPoint);
+    }
+  }
+
+  std::vector<std::string> of(const std::string& device) const {
+    const auto found = mountPoints_.find(device);
+    return found == mountPoints_.end() ? std::vector<std::string>() : found->second;
+  }
+
+ private:
+  std::unordered_map<std::string, std::string> paths_;  ///< of devices, by number
+  std::unordered_map<std::string, std::vector<std::string>> mountPoints_;
+};
+
+void addEntities(AttachedImage& image, const std::string& device, const MountPoints& mountPoints) {
+  const std::vector<std::string> places = mountPoints.of(device);
+  if (places.empty()) image.entities.push_back({device, std::nullopt});
+  for (const std::string& place : places) image.entities.push_back({device, place});
+}
+
+}  // namespace
+
+std::vector<AttachedImage> attachedImages(const std::vector<LoopDevice>& loops,
+                                          const std::vector<Mount>& mounts) {
+  const MountPoints mountPoints(loops, mounts);
+  std::vector<AttachedImage> images;
+  for (const LoopDevice& loop : loops) {
+    AttachedImage& image = images.emplace_back(AttachedImage{loop.imagePath, {}});
+    for (const BlockDevice& device : loop.devices) {
+      addEntities(image, pathOf(device), mountPoints);
+    }
+  }
+  return images;
+}
+
+}  // namespace launcher

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "discovery/linux/attached-images/LoopDevices.h"
+#include "discovery/linux/attached-images/MountTable.h"
+
+namespace launcher {
+
+/// A device of an image, and one place where it is mounted.
+struct ImageEntity {
+  std::string device;                     ///< such as "/dev/loop0p1"
+  std::optional<std::string> mountPoint;  ///< absent where it is not mounted
+
+  friend bool operator==(const ImageEntity&, const ImageEntity&) = default;
+};
+
+struct AttachedImage {
+  std::string path;
+  std::vector<ImageEntity> entities;
+
+  friend bool operator==(const AttachedImage&, const AttachedImage&) = default;
+};
+
+/// Brings images and mounts together: an entity for each place where a device is mounted, in the
+/// mount table's order, or one for a device that is not. A mount belongs to the device of its
+/// number, else to that of its source: file systems such as btrfs have numbers of their own.
+std::vector<AttachedImage> attachedImages(const std::vector<LoopDevice>& loops,
+                                          const std::vector<Mount>& mounts);
+
+}  // namespace launcher

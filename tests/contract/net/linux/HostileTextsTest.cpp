@@ -1,0 +1,45 @@
+// How much memory texts may cost that nobody types.
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <string>
+#include <string_view>
+
+#include "net/AddressChecks.h"
+#include "tests/contract/linux/MemoryLimit.h"
+
+namespace launcher {
+namespace {
+
+/// A million bytes of a text again and again.
+std::string million(std::string_view text) {
+  std::string all;
+  while (all.size() < 1'000'000) all += text;
+  return all;
+}
+
+/// Asks all that is asked of a typed text, with no more than 64 MB to take, and ends the process:
+/// with success if there was an answer.
+[[noreturn]] void judgeWithin64MB(const std::string& text) {
+  const auto detector = makeLinkDetector();
+  limitMemoryTo64MB();
+  const bool valid = isValidURLAddress(text, *detector);
+  const bool link = validURLAddress(text, InsecureScheme::allowed, *detector).has_value();
+  std::_Exit((valid && !link) || validIPAddress(text) ? 1 : 0);
+}
+
+TEST(HostileTextsLinuxDeathTest, MillionsOfCharactersTakeLittleMemory) {
+  if (!memoryCanBeLimited) GTEST_SKIP() << "the sanitizer needs the address space";
+  for (const std::string& text :
+       {million("a"), million("://"), million("a."), million("a@"), million("%41"), million("\xff"),
+        million("\u202e"), million("e\u0301"), million("\U0001F468\u200d"), million({"\0", 1}),
+        "https://" + million("a.b"), "https://h.example/" + million("("),
+        "https://" + million("\u00e9") + ".example", "https://h.example/" + million("\u4e2d"),
+        "[" + million("1:"), million("https://h.example ")}) {
+    EXPECT_EXIT(judgeWithin64MB(text), testing::ExitedWithCode(0), "") << text.substr(0, 30);
+  }
+}
+
+}  // namespace
+}  // namespace launcher

@@ -1,8 +1,0 @@
-#include "app/gnustep/Display.h"
-#include "tests/window/Screen.h"
-
-namespace launcher {
-
-bool hasScreen() { return hasDisplay(); }
-
-}  // namespace launcher

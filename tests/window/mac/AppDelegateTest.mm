@@ -1,0 +1,101 @@
+// The application's delegate.
+
+#import "app/mac/AppDelegate.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <spawn.h>
+#include <sys/wait.h>
+
+#include <csignal>
+#include <string>
+
+#include "app/mac/Services.h"
+#import "tests/window/mac/Messages.h"
+#import "tests/window/mac/Stage.h"
+
+namespace launcher {
+
+/// Those that quitting asks for.
+const Services& services() {
+  static const auto* const instance = [] {
+    auto* made = new Services;
+    made->processes = std::make_unique<FakeProcessTable>();
+    return made;
+  }();
+  return *instance;
+}
+
+namespace {
+
+FakeProcessTable& processesAtQuit() {
+  return dynamic_cast<FakeProcessTable&>(*services().processes);
+}
+
+/// A program that waits to be signalled; it runs already. It does not hold back the signals that
+/// this one does.
+pid_t startSleeper() {
+  std::string name = "sleep";
+  std::string seconds = "600";
+  char* const arguments[] = {name.data(), seconds.data(), nullptr};
+  char* const environment[] = {nullptr};
+  posix_spawnattr_t attributes;
+  sigset_t none;
+  sigemptyset(&none);
+  posix_spawnattr_init(&attributes);
+  posix_spawnattr_setsigmask(&attributes, &none);
+  posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
+  pid_t child = -1;
+  posix_spawn(&child, "/bin/sleep", nullptr, &attributes, arguments, environment);
+  posix_spawnattr_destroy(&attributes);
+  return child;
+}
+
+class AppDelegateTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    clearStage();
+    processesAtQuit().processes.clear();
+  }
+
+  void quit() {
+    [delegate_
+        applicationWillTerminate:[NSNotification
+                                     notificationWithName:NSApplicationWillTerminateNotification
+                                                   object:NSApp]];
+  }
+
+  AppDelegate* delegate_ = [[[AppDelegate alloc] init] autorelease];
+};
+
+TEST_F(AppDelegateTest, ImplementsThreeOperationsOfTheProtocol) {
+  EXPECT_THAT(messagesOf([AppDelegate class]),
+              testing::UnorderedElementsAre(
+                  "init", "applicationDidFinishLaunching:", "applicationWillTerminate:",
+                  "applicationShouldTerminateAfterLastWindowClosed:"));
+}
+
+TEST_F(AppDelegateTest, TheLastWindowClosesTheApplication) {
+  EXPECT_TRUE([delegate_ applicationShouldTerminateAfterLastWindowClosed:NSApp]);
+}
+
+TEST_F(AppDelegateTest, QuittingStopsTheViewer) {
+  LaunchControl::sharedInstance().launchProc("h", "1.2.3.4");
+  const auto viewer = stage().starter.starts.at(0).process;
+  quit();
+  EXPECT_EQ(viewer->terminations, 1);
+  EXPECT_EQ(LaunchControl::sharedInstance().runningProcess(), nullptr);
+}
+
+TEST_F(AppDelegateTest, QuittingSignalsTheCompanion) {
+  const pid_t companion = startSleeper();
+  processesAtQuit().processes = {processRecord(companion, "vexwatch")};
+  quit();
+  int status = 0;
+  ASSERT_EQ(waitpid(companion, &status, 0), companion);
+  EXPECT_TRUE(WIFSIGNALED(status));
+  EXPECT_EQ(WTERMSIG(status), SIGTERM);
+}
+
+}  // namespace
+}  // namespace launcher

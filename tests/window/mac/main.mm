@@ -1,0 +1,28 @@
+#import <AppKit/AppKit.h>
+#include <gtest/gtest.h>
+
+#include <cstdio>
+
+#include "app/mac/PrepareToolkit.h"
+#include "tests/window/mac/Screen.h"
+
+namespace {
+
+// The exit status that tests/runner takes for a reason to skip the suite.
+constexpr int withoutDisplay = 77;
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  @autoreleasepool {
+    testing::InitGoogleTest(&argc, argv);
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    if (!launcher::hasScreen()) {
+      std::puts("no screen to show windows on");
+      return withoutDisplay;
+    }
+    launcher::prepareToolkit();
+    [[NSApplication sharedApplication] finishLaunching];
+    return RUN_ALL_TESTS();
+  }
+}

@@ -1,0 +1,57 @@
+// A sample viewer. It stands in for the remote-control viewer where none is at hand: it prints and
+// shows what the launcher gave it, and ends at SIGTERM or with its window.
+
+#import <AppKit/AppKit.h>
+
+#include <unistd.h>
+
+#include <cstdio>
+
+#include "viewer/Arguments.h"
+#import "viewer/mac/SampleWindow.h"
+#include "viewer/mac/Toolkit.h"
+
+namespace {
+
+void print(const viewer::Arguments& arguments) {
+  std::printf("sample viewer: host %s, IP address %s, resource folder %s\n", arguments.host.c_str(),
+              arguments.ipAddress.c_str(), arguments.resourceFolder.c_str());
+  std::fflush(stdout);
+}
+
+/// Shows the launcher's icon, where there is one.
+void takeIcon(NSApplication* application, const viewer::Arguments& arguments) {
+  NSString* file = [NSString stringWithUTF8String:viewer::iconIn(arguments.resourceFolder).c_str()];
+  NSImage* icon = file != nil ? [[[NSImage alloc] initWithContentsOfFile:file] autorelease] : nil;
+  if (icon != nil) [application setApplicationIconImage:icon];
+}
+
+void showWindow(const viewer::Arguments& arguments) {
+  @autoreleasepool {
+    NSApplication* application = [NSApplication sharedApplication];
+    takeIcon(application, arguments);
+    SampleWindow* window = [[SampleWindow alloc] initWithArguments:arguments];
+    [application setDelegate:window];
+    [window show];
+    [application activateIgnoringOtherApps:YES];
+    [application run];
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const auto arguments = viewer::parseArguments(argc, argv);
+  if (!arguments) {
+    std::fprintf(stderr, "usage: %s -l HOST -i ADDRESS -r FOLDER\n", argv[0]);
+    return 2;
+  }
+
+  print(*arguments);
+  if (viewer::prepareToolkit()) {
+    showWindow(*arguments);
+  } else {
+    pause();
+  }
+  return 0;
+}
