@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-/// What the platform knows about Unicode. Asked by Text.cpp, for texts that are not plain ASCII;
-/// everyone else uses Text.h. Units are UTF-16 without lone surrogates. No state; any thread.
+/// What the platform knows about Unicode. Asked by Unicode.cpp, for texts that are not plain ASCII;
+/// everyone else uses Unicode.h. Units are UTF-16 without lone surrogates. No state; any thread.
 namespace launcher {
 
 /// The number of extended grapheme clusters.

@@ -1,9 +1,9 @@
 #include "controller/LauncherController.h"
 
 #include "base/SDLog.h"
-#include "discovery/AttachedImages.h"
 #include "discovery/DownloadOrigin.h"
 #include "discovery/ImageRecords.h"
+#include "discovery/ListingRun.h"
 #include "net/AddressChecks.h"
 #include "net/IPUtils.h"
 #include "process/ProcessHelpers.h"
@@ -39,7 +39,7 @@ std::string LauncherController::launchStateString(LaunchState state) const {
 void LauncherController::updateState() {
   const std::string ip = window_.ipAddress();
   const bool ipAcceptable = ip.empty() || validIPAddress(ip);
-  showIpAddressColour(ip, ipAcceptable);
+  markIpAddress(ip, ipAcceptable);
 
   const bool locationAcceptable = isValidURLAddress(window_.vorxLocation(), services_.links);
 
@@ -48,9 +48,9 @@ void LauncherController::updateState() {
   window_.setInfoLabel(launchStateString(state));
 }
 
-void LauncherController::showIpAddressColour(const std::string& ip, bool acceptable) {
-  const FieldColour judged = acceptable ? FieldColour::green : FieldColour::red;
-  window_.setIpAddressColour(ip.empty() ? FieldColour::white : judged);
+void LauncherController::markIpAddress(const std::string& ip, bool acceptable) {
+  const AddressMark judged = acceptable ? AddressMark::valid : AddressMark::invalid;
+  window_.setIpAddressMark(ip.empty() ? AddressMark::empty : judged);
 }
 
 LaunchState LauncherController::offerLaunch() {
@@ -96,9 +96,9 @@ void LauncherController::launched() {
 void LauncherController::lookupFailed(const std::string& host) {
   const Translations& translated = services_.translations;
   window_.setInfoLabel(launchStateString(LaunchState::noURL));
-  window_.show({.message = filledIn(translated(texts::lookupFailed), host),
-                .informative = translated(texts::checkAddress),
-                .button = translated(texts::ok)});
+  window_.showAlert({.message = filledIn(translated(texts::lookupFailed), host),
+                     .informative = translated(texts::checkAddress),
+                     .button = translated(texts::ok)});
   // The button stays disabled until an edit of the location has the state evaluated again.
   window_.setVorxLocation(Availability::enabled);
 }

@@ -88,7 +88,7 @@ class LauncherController {
   void launched();
   void lookupFailed(const std::string& host);
 
-  void showIpAddressColour(const std::string& ip, bool acceptable);
+  void markIpAddress(const std::string& ip, bool acceptable);
   LaunchState offerLaunch();
   LaunchState refuseLaunch();
   ProcessId runningViewer() const;

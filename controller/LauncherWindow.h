@@ -5,7 +5,8 @@
 
 namespace launcher {
 
-enum class FieldColour { white, green, red };
+/// What the text of the IP field was found to be.
+enum class AddressMark { empty, valid, invalid };
 
 enum class Availability { disabled, enabled };
 
@@ -25,8 +26,9 @@ struct LauncherWindow {
   virtual void setVorxLocation(Availability availability) = 0;
 
   virtual std::string ipAddress() const = 0;
-  /// Colours the IP field's layer; nothing happens where the field has none.
-  virtual void setIpAddressColour(FieldColour colour) = 0;
+  /// Shows in the IP field's colour what its text was found to be; nothing happens where the field
+  /// has no layer.
+  virtual void setIpAddressMark(AddressMark mark) = 0;
 
   virtual void setLaunchButton(Availability availability) = 0;
   virtual void setLaunchButtonTitle(const std::string& title) = 0;
@@ -34,7 +36,7 @@ struct LauncherWindow {
   virtual void setInfoLabel(const std::string& text) = 0;
 
   /// Shows the alert and blocks until it has been dismissed; the window goes on being drawn.
-  virtual void show(const Alert& alert) = 0;
+  virtual void showAlert(const Alert& alert) = 0;
 
   /// A token that keeps the window's controller alive, with this object, for as long as it is held.
   /// Any thread, for taking and for letting go.

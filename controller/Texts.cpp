@@ -4,7 +4,7 @@
 
 namespace launcher {
 
-const Text& statusText(LaunchState state) {
+const LocalizableText& statusText(LaunchState state) {
   switch (state) {
     case LaunchState::noURL:
       return texts::noURL;

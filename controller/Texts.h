@@ -8,37 +8,40 @@
 namespace launcher {
 
 /// A text that is shown: its key, which is the English text, and a comment for translators.
-struct Text {
+struct LocalizableText {
   std::string_view key;
   std::string_view comment;
 };
 
 namespace texts {
 
-inline constexpr Text noURL{"Enter valid Vorx location to enable launch button",
-                            "Ask user to enter a valid Vorx address to enable the launch button"};
-inline constexpr Text runningReadyToRun{"Press launch button to re-start remote control",
-                                        "Launch button can now be pressed, app is already running"};
-inline constexpr Text readyToRun{"Press launch button to start remote control",
-                                 "Launch button can now be pressed"};
-inline constexpr Text gettingIPAddress{
+inline constexpr LocalizableText noURL{
+    "Enter valid Vorx location to enable launch button",
+    "Ask user to enter a valid Vorx address to enable the launch button"};
+inline constexpr LocalizableText runningReadyToRun{
+    "Press launch button to re-start remote control",
+    "Launch button can now be pressed, app is already running"};
+inline constexpr LocalizableText readyToRun{"Press launch button to start remote control",
+                                            "Launch button can now be pressed"};
+inline constexpr LocalizableText gettingIPAddress{
     "Looking up IP Address for the Vorx",
     "Please wait whilst we look up the IP address for the Vorx you entered"};
 
-inline constexpr Text launch{"Launch", "Launch button"};
-inline constexpr Text reLaunch{"Re-Launch", "Re-Launch button"};
+inline constexpr LocalizableText launch{"Launch", "Launch button"};
+inline constexpr LocalizableText reLaunch{"Re-Launch", "Re-Launch button"};
 
 /// "%@" stands for the host.
-inline constexpr Text lookupFailed{"Failed to look up IP address for '%@'",
-                                   "IP look up failed for the provided domain"};
-inline constexpr Text checkAddress{"Please check you have entered the correct address",
-                                   "Ask user to check they have entered the correct address"};
-inline constexpr Text ok{"OK", "OK button"};
+inline constexpr LocalizableText lookupFailed{"Failed to look up IP address for '%@'",
+                                              "IP look up failed for the provided domain"};
+inline constexpr LocalizableText checkAddress{
+    "Please check you have entered the correct address",
+    "Ask user to check they have entered the correct address"};
+inline constexpr LocalizableText ok{"OK", "OK button"};
 
 }  // namespace texts
 
 /// The status line of a state.
-const Text& statusText(LaunchState state);
+const LocalizableText& statusText(LaunchState state);
 
 /// The format with its first "%@" replaced by the value.
 ///

@@ -13,7 +13,7 @@ class Translations {
   virtual ~Translations() = default;
 
   /// The text in the person's language; the key itself where there is no translation.
-  virtual std::string operator()(const Text& text) const = 0;
+  virtual std::string operator()(const LocalizableText& text) const = 0;
 };
 
 /// Asks the running application's bundle.

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "base/SDLog.h"
-#include "base/Text.h"
+#include "base/Unicode.h"
 
 namespace launcher {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 
 namespace launcher {
 namespace {

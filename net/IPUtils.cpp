@@ -6,7 +6,7 @@
 #include <array>
 #include <cstddef>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "net/SocketLength.h"
 
 namespace launcher {

@@ -4,7 +4,7 @@
 #include <exception>
 
 #include "base/FatalError.h"
-#include "base/Text.h"
+#include "base/Unicode.h"
 
 namespace launcher {
 namespace {

@@ -38,7 +38,7 @@ Pattern match(const std::string& language, FontWeight weight, const std::string&
 }
 
 /// Whether a font has a language's letters.
-bool speaks(const Pattern& font, const std::string& language) {
+bool supports(const Pattern& font, const std::string& language) {
   FcLangSet* languages = nullptr;
   if (language.empty()) return true;
   if (!font || FcPatternGetLangSet(font.get(), FC_LANG, 0, &languages) != FcResultMatch) {
@@ -59,7 +59,7 @@ std::string postScriptName(const Pattern& font) {
 
 std::string desktopFont(const std::string& language, FontWeight weight, const std::string& family) {
   Pattern font = match(language, weight, family);
-  if (!speaks(font, language)) font = match(language, weight, {});
+  if (!supports(font, language)) font = match(language, weight, {});
   return postScriptName(font);
 }
 

@@ -15,8 +15,8 @@
 }
 
 - (void)applicationWillTerminate:(NSNotification*)notification {
-  launcher::quitSequence(launcher::LaunchControl::sharedInstance(), *launcher::services().processes,
-                         kill);
+  launcher::quitSequence(launcher::LaunchControl::sharedInstance(),
+                         *launcher::platformServices().processes, kill);
 }
 
 - (BOOL)applicationShouldTerminateAfterLastWindowClosed:(NSApplication*)application {

@@ -8,7 +8,7 @@
 namespace launcher {
 
 /// The platform's services, each made once.
-struct Services {
+struct PlatformServices {
   std::unique_ptr<ApplicationBundle> bundle;
   std::unique_ptr<ProcessTable> processes;
   std::unique_ptr<ProgramStarter> starter;
@@ -23,6 +23,6 @@ struct Services {
 
 /// Those that the application uses. Made on first use and never destroyed, since background work
 /// may still use them while the process ends. Any thread.
-const Services& services();
+const PlatformServices& platformServices();
 
 }  // namespace launcher

@@ -6,8 +6,8 @@
 namespace launcher {
 namespace {
 
-Services* makeServices() {
-  auto* made = new Services{
+PlatformServices* makeServices() {
+  auto* made = new PlatformServices{
       .bundle = makeApplicationBundle(),
       .processes = makeProcessTable(),
       .starter = makeProgramStarter(),
@@ -25,33 +25,33 @@ Services* makeServices() {
 
 }  // namespace
 
-const Services& services() {
-  static const Services* const instance = makeServices();
+const PlatformServices& platformServices() {
+  static const PlatformServices* const instance = makeServices();
   return *instance;
 }
 
 LaunchControl& LaunchControl::sharedInstance() {
   static auto* const instance = new LaunchControl({
-      .bundle = *services().bundle,
-      .processes = *services().processes,
-      .starter = *services().starter,
-      .sleeper = *services().sleeper,
+      .bundle = *platformServices().bundle,
+      .processes = *platformServices().processes,
+      .starter = *platformServices().starter,
+      .sleeper = *platformServices().sleeper,
   });
   return *instance;
 }
 
 const ControllerServices& controllerServices() {
   static const auto* const instance = new ControllerServices{
-      .bundle = *services().bundle,
-      .resolver = *services().resolver,
-      .links = *services().links,
-      .origin = *services().origin,
-      .processes = *services().processes,
-      .translations = *services().translations,
-      .listingTool = services().listingTool,
-      .sleeper = *services().sleeper,
+      .bundle = *platformServices().bundle,
+      .resolver = *platformServices().resolver,
+      .links = *platformServices().links,
+      .origin = *platformServices().origin,
+      .processes = *platformServices().processes,
+      .translations = *platformServices().translations,
+      .listingTool = platformServices().listingTool,
+      .sleeper = *platformServices().sleeper,
       .launchControl = LaunchControl::sharedInstance(),
-      .mainQueue = *services().mainQueue,
+      .mainQueue = *platformServices().mainQueue,
   };
   return *instance;
 }

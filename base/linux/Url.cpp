@@ -4,7 +4,7 @@
 #include <system_error>
 
 #include "base/PercentEncoding.h"
-#include "base/Text.h"
+#include "base/Unicode.h"
 
 namespace launcher {
 namespace {

@@ -12,18 +12,18 @@
 namespace launcher {
 
 /// The text in UTF-8; a lone surrogate becomes U+FFFD, nil the empty text.
-std::string fromToolkit(NSString* text);
+std::string toStdString(NSString* text);
 
 /// The URL by its absolute text, or absent, also for nil.
-std::optional<Url> fromToolkit(NSURL* url);
+std::optional<Url> toUrl(NSURL* url);
 
 /// The text as an autoreleased object; an ill-formed sequence becomes U+FFFD.
-NSString* toToolkit(std::string_view text);
+NSString* toNSString(std::string_view text);
 
 /// The text of UTF-16 units as an autoreleased object; lone surrogates are kept.
-NSString* toToolkit(std::u16string_view units);
+NSString* toNSString(std::u16string_view units);
 
 /// nil where the text is absent.
-NSString* toToolkitOrNil(const std::optional<std::string>& text);
+NSString* toNSStringOrNil(const std::optional<std::string>& text);
 
 }  // namespace launcher

@@ -1,5 +1,5 @@
 #include "base/UnicodeRules.h"
-#include "base/Text.h"
+#include "base/Unicode.h"
 #import "base/mac/Conversions.h"
 
 namespace launcher {
@@ -8,7 +8,7 @@ namespace launcher {
 /// units together is not documented, hence the look at the pair.
 std::size_t graphemeClusterCount(std::u16string_view units) {
   @autoreleasepool {
-    NSString* text = toToolkit(units);
+    NSString* text = toNSString(units);
     std::size_t count = 0;
     for (std::size_t at = 0; at < units.size();) {
       const bool endsLine = at > 0 && units.substr(at - 1, 2) == u"\r\n";
@@ -21,7 +21,7 @@ std::size_t graphemeClusterCount(std::u16string_view units) {
 
 std::u16string decomposition(std::u16string_view units) {
   @autoreleasepool {
-    return utf16(fromToolkit([toToolkit(units) decomposedStringWithCanonicalMapping]));
+    return utf16(toStdString([toNSString(units) decomposedStringWithCanonicalMapping]));
   }
 }
 

@@ -6,11 +6,11 @@
 namespace launcher {
 namespace {
 
-NSURL* platformUrl(std::string_view text) { return [NSURL URLWithString:toToolkit(text)]; }
+NSURL* platformUrl(std::string_view text) { return [NSURL URLWithString:toNSString(text)]; }
 
 std::optional<std::string> present(NSString* text) {
   if (text == nil) return std::nullopt;
-  return fromToolkit(text);
+  return toStdString(text);
 }
 
 }  // namespace
@@ -21,15 +21,15 @@ std::optional<Url> Url::parse(std::string_view text) {
   @autoreleasepool {
     if (text.empty()) return std::nullopt;
     NSURL* url = platformUrl(text);
-    if (url == nil || fromToolkit([url absoluteString]) != text) return std::nullopt;
+    if (url == nil || toStdString([url absoluteString]) != text) return std::nullopt;
     return Url(std::string(text));
   }
 }
 
 Url Url::ofFile(std::string_view path) {
   @autoreleasepool {
-    NSURL* url = [NSURL fileURLWithPath:toToolkit(path) isDirectory:NO];
-    return Url(fromToolkit([url absoluteString]));
+    NSURL* url = [NSURL fileURLWithPath:toNSString(path) isDirectory:NO];
+    return Url(toStdString([url absoluteString]));
   }
 }
 
@@ -59,7 +59,7 @@ Url Url::deletingLastPathComponent() const {
     NSURL* url = platformUrl(text_);
     if ([[url path] length] == 0) return *this;
     NSURL* shortened = [url URLByDeletingLastPathComponent];
-    return shortened == nil ? *this : Url(fromToolkit([shortened absoluteString]));
+    return shortened == nil ? *this : Url(toStdString([shortened absoluteString]));
   }
 }
 

@@ -6,7 +6,7 @@
 #include <cstring>
 #include <string>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "bench/small/LinkTexts.h"
 #include "net/AddressChecks.h"
 #include "net/LinkDetector.h"

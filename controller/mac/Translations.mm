@@ -8,9 +8,9 @@ namespace {
 
 class BundleTranslations : public Translations {
  public:
-  std::string operator()(const Text& text) const override {
+  std::string operator()(const LocalizableText& text) const override {
     @autoreleasepool {
-      return fromToolkit([[NSBundle mainBundle] localizedStringForKey:toToolkit(text.key)
+      return toStdString([[NSBundle mainBundle] localizedStringForKey:toNSString(text.key)
                                                                 value:@""
                                                                 table:nil]);
     }

@@ -47,8 +47,10 @@ void giveLayer(NSTextField* field) {
 }  // namespace launcher
 
 using launcher::connected;
-using launcher::fromToolkit;
-using launcher::toToolkitOrNil;
+using launcher::toDictionary;
+using launcher::toStdString;
+using launcher::toUrl;
+using launcher::toNSStringOrNil;
 
 @implementation ViewController
 
@@ -119,7 +121,7 @@ static void prepare(ViewController* self) {
 }
 
 - (NSString*)getIpAddressWithDomain:(NSString*)domain manualIP:(NSString*)manualIP {
-  return toToolkitOrNil((*_logic)->getIpAddress(fromToolkit(domain), fromToolkit(manualIP)));
+  return toNSStringOrNil((*_logic)->getIpAddress(toStdString(domain), toStdString(manualIP)));
 }
 
 - (IBAction)launchButtonClick:(id)sender {
@@ -131,16 +133,16 @@ static void prepare(ViewController* self) {
 }
 
 - (NSString*)extractWhereAreYouFromUrl:(NSURL*)url {
-  const auto file = fromToolkit(url);
-  return file ? toToolkitOrNil((*_logic)->extractWhereAreYouFrom(*file)) : nil;
+  const auto file = toUrl(url);
+  return file ? toNSStringOrNil((*_logic)->extractWhereAreYouFrom(*file)) : nil;
 }
 
 - (NSString*)processDMGDataWithPlist:(NSDictionary*)plist {
-  return toToolkitOrNil((*_logic)->processDMGData(fromToolkit(plist)));
+  return toNSStringOrNil((*_logic)->processDMGData(toDictionary(plist)));
 }
 
 - (void)updateSourceLocationWithSource:(NSString*)source {
-  (*_logic)->updateSourceLocation(fromToolkit(source));
+  (*_logic)->updateSourceLocation(toStdString(source));
 }
 
 - (void)searchDMGs {
@@ -148,7 +150,7 @@ static void prepare(ViewController* self) {
 }
 
 - (NSString*)extractSourceFromDMG {
-  return toToolkitOrNil((*_logic)->extractSourceFromDMG());
+  return toNSStringOrNil((*_logic)->extractSourceFromDMG());
 }
 
 - (void)controlTextDidChange:(NSNotification*)notification {

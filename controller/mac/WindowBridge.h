@@ -15,11 +15,11 @@ class WindowBridge : public LauncherWindow {
   void setVorxLocation(const std::string& text) override;
   void setVorxLocation(Availability availability) override;
   std::string ipAddress() const override;
-  void setIpAddressColour(FieldColour colour) override;
+  void setIpAddressMark(AddressMark mark) override;
   void setLaunchButton(Availability availability) override;
   void setLaunchButtonTitle(const std::string& title) override;
   void setInfoLabel(const std::string& text) override;
-  void show(const Alert& alert) override;
+  void showAlert(const Alert& alert) override;
   std::shared_ptr<void> keepAlive() override;
 
  private:

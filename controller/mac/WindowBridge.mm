@@ -12,13 +12,13 @@ namespace {
 
 BOOL isEnabled(Availability availability) { return availability == Availability::enabled; }
 
-NSColor* named(FieldColour colour) {
-  switch (colour) {
-    case FieldColour::green:
+NSColor* systemColour(AddressMark mark) {
+  switch (mark) {
+    case AddressMark::valid:
       return [NSColor greenColor];
-    case FieldColour::red:
+    case AddressMark::invalid:
       return [NSColor redColor];
-    case FieldColour::white:
+    case AddressMark::empty:
       return [NSColor whiteColor];
   }
 }
@@ -60,11 +60,11 @@ class Hold {
 }  // namespace
 
 std::string WindowBridge::vorxLocation() const {
-  return fromToolkit([[controller_ vorxLocation] stringValue]);
+  return toStdString([[controller_ vorxLocation] stringValue]);
 }
 
 void WindowBridge::setVorxLocation(const std::string& text) {
-  [[controller_ vorxLocation] setStringValue:toToolkit(text)];
+  [[controller_ vorxLocation] setStringValue:toNSString(text)];
 }
 
 void WindowBridge::setVorxLocation(Availability availability) {
@@ -72,11 +72,11 @@ void WindowBridge::setVorxLocation(Availability availability) {
 }
 
 std::string WindowBridge::ipAddress() const {
-  return fromToolkit([[controller_ ipAddress] stringValue]);
+  return toStdString([[controller_ ipAddress] stringValue]);
 }
 
-void WindowBridge::setIpAddressColour(FieldColour colour) {
-  setColour([[controller_ ipAddress] layer], [named(colour) CGColor]);
+void WindowBridge::setIpAddressMark(AddressMark mark) {
+  setColour([[controller_ ipAddress] layer], [systemColour(mark) CGColor]);
 }
 
 void WindowBridge::setLaunchButton(Availability availability) {
@@ -84,18 +84,18 @@ void WindowBridge::setLaunchButton(Availability availability) {
 }
 
 void WindowBridge::setLaunchButtonTitle(const std::string& title) {
-  setTitle([controller_ launchButton], toToolkit(title));
+  setTitle([controller_ launchButton], toNSString(title));
 }
 
 void WindowBridge::setInfoLabel(const std::string& text) {
-  setText([controller_ infoLabel], toToolkit(text));
+  setText([controller_ infoLabel], toNSString(text));
 }
 
-void WindowBridge::show(const Alert& alert) {
+void WindowBridge::showAlert(const Alert& alert) {
   NSAlert* panel = [[NSAlert alloc] init];
-  [panel setMessageText:toToolkit(alert.message)];
-  [panel setInformativeText:toToolkit(alert.informative)];
-  [panel addButtonWithTitle:toToolkit(alert.button)];
+  [panel setMessageText:toNSString(alert.message)];
+  [panel setInformativeText:toNSString(alert.informative)];
+  [panel addButtonWithTitle:toNSString(alert.button)];
   [panel runModal];
   [panel release];
 }

@@ -9,7 +9,7 @@
 #include <optional>
 #include <span>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "discovery/linux/XmlText.h"
 
 namespace launcher {

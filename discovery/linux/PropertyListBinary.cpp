@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "discovery/linux/BinaryObjects.h"
 #include "discovery/linux/PropertyListForms.h"
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <utility>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "discovery/linux/PropertyListForms.h"
 #include "discovery/linux/XmlEncoding.h"
 #include "discovery/linux/XmlLeaves.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "discovery/linux/PropertyListForms.h"
 
 namespace launcher {

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <system_error>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "discovery/linux/PropertyListForms.h"
 
 namespace launcher {

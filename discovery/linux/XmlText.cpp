@@ -1,6 +1,6 @@
 #include "discovery/linux/XmlText.h"
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 
 namespace launcher {
 namespace {

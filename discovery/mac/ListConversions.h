@@ -11,9 +11,9 @@ namespace launcher {
 
 /// The list that an object is, whatever its kind; absent where it is nested too deeply or, with
 /// parts that are referred to many times, too large.
-std::optional<PropertyList> listFromToolkit(id object);
+std::optional<PropertyList> toPropertyList(id object);
 
 /// The dictionary; empty where it is no list for us, or has a key that is no text.
-PropertyList::Dictionary fromToolkit(NSDictionary* dictionary);
+PropertyList::Dictionary toDictionary(NSDictionary* dictionary);
 
 }  // namespace launcher

@@ -44,7 +44,7 @@ class Conversion {
   }
 
   std::string textOf(NSString* object) {
-    std::string text = fromToolkit(object);
+    std::string text = toStdString(object);
     take(text.size());
     return text;
   }
@@ -75,15 +75,15 @@ class Conversion {
 
 }  // namespace
 
-std::optional<PropertyList> listFromToolkit(id object) {
+std::optional<PropertyList> toPropertyList(id object) {
   Conversion conversion;
   PropertyList list = conversion.valueOf(object);
   if (conversion.exceeded()) return std::nullopt;
   return list;
 }
 
-PropertyList::Dictionary fromToolkit(NSDictionary* dictionary) {
-  const std::optional<PropertyList> list = listFromToolkit(dictionary);
+PropertyList::Dictionary toDictionary(NSDictionary* dictionary) {
+  const std::optional<PropertyList> list = toPropertyList(dictionary);
   if (!list || list->dictionary() == nullptr) return {};
   return *list->dictionary();
 }

@@ -8,7 +8,7 @@ namespace {
 PropertyListReading unreadable(std::string reason) { return {std::nullopt, std::move(reason)}; }
 
 std::string reasonOf(NSError* error) {
-  return error == nil ? "not a property list" : fromToolkit([error localizedDescription]);
+  return error == nil ? "not a property list" : toStdString([error localizedDescription]);
 }
 
 }  // namespace
@@ -23,7 +23,7 @@ PropertyListReading readPropertyList(std::string_view bytes) {
                                                           error:&error];
     if (list == nil) return unreadable(reasonOf(error));
 
-    std::optional<PropertyList> value = listFromToolkit(list);
+    std::optional<PropertyList> value = toPropertyList(list);
     if (!value) return unreadable("too many values, or nested too deeply");
     return {std::move(value), {}};
   }

@@ -10,11 +10,11 @@ class DataDetector : public LinkDetector {
     @autoreleasepool {
       NSDataDetector* detector = [[[NSDataDetector alloc] initWithTypes:NSTextCheckingTypeLink
                                                                   error:nil] autorelease];
-      NSTextCheckingResult* match = [detector firstMatchInString:toToolkit(text)
+      NSTextCheckingResult* match = [detector firstMatchInString:toNSString(text)
                                                          options:NSMatchingReportCompletion
                                                            range:NSMakeRange(0, length)];
       if (match == nil) return std::nullopt;
-      return LinkMatch{fromToolkit([match URL]), [match range].location, [match range].length};
+      return LinkMatch{toUrl([match URL]), [match range].location, [match range].length};
     }
   }
 };

@@ -32,8 +32,8 @@ class TaskStarter : public ProgramStarter {
                                         const std::vector<std::string>& arguments) override {
     @autoreleasepool {
       NSMutableArray<NSString*>* texts = [NSMutableArray arrayWithCapacity:arguments.size()];
-      for (const std::string& argument : arguments) [texts addObject:toToolkit(argument)];
-      NSTask* task = launched(toToolkit(path), texts);
+      for (const std::string& argument : arguments) [texts addObject:toNSString(argument)];
+      NSTask* task = launched(toNSString(path), texts);
       return task == nil ? nullptr : std::make_shared<Task>(task);
     }
   }

@@ -12,7 +12,7 @@ class FakeTranslations : public Translations {
  public:
   std::map<std::string, std::string, std::less<>> table;
 
-  std::string operator()(const Text& text) const override {
+  std::string operator()(const LocalizableText& text) const override {
     const auto found = table.find(text.key);
     return found == table.end() ? std::string(text.key) : found->second;
   }

@@ -17,7 +17,7 @@ class FakeWindow : public LauncherWindow {
   std::string ip;
   std::string info = "as laid out";
   std::string buttonTitle = "as laid out";
-  std::optional<FieldColour> ipColour;
+  std::optional<AddressMark> ipColour;
   bool buttonEnabled = false;
   bool locationEnabled = true;
   std::vector<Alert> alerts;
@@ -37,7 +37,7 @@ class FakeWindow : public LauncherWindow {
     calls.emplace_back(locationEnabled ? "enable location" : "disable location");
   }
   std::string ipAddress() const override { return ip; }
-  void setIpAddressColour(FieldColour colour) override {
+  void setIpAddressMark(AddressMark colour) override {
     ipColour = colour;
     calls.emplace_back("colour ip");
   }
@@ -53,7 +53,7 @@ class FakeWindow : public LauncherWindow {
     info = text;
     calls.push_back("info " + text);
   }
-  void show(const Alert& alert) override {
+  void showAlert(const Alert& alert) override {
     alerts.push_back(alert);
     calls.push_back("alert " + alert.message);
     whileAlertIsUp();

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <string>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "discovery/PropertyList.h"
 #include "discovery/linux/attached-images/AttachedImageList.h"
 #include "discovery/linux/attached-images/ListingText.h"

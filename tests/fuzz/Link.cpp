@@ -1,7 +1,7 @@
 // A link lies inside the range that is searched, and depends on nothing behind it.
 #include <string>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "net/AddressChecks.h"
 #include "net/LinkDetector.h"
 #include "tests/fuzz/Fuzzing.h"

@@ -1,5 +1,5 @@
 // What a listing leads to is the path of one of its images, asked for at the application's folder.
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "discovery/ImageRecords.h"
 #include "discovery/PropertyList.h"
 #include "tests/doubles/FakeBundle.h"

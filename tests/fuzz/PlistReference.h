@@ -10,7 +10,7 @@
 #include <string_view>
 #include <utility>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "discovery/PropertyList.h"
 
 namespace launcher::fuzzing {

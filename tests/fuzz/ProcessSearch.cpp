@@ -1,7 +1,7 @@
 // The search finds the first process whose name begins the one that is sought.
 #include <string>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "process/ProcessHelpers.h"
 #include "tests/doubles/FakeProcessTable.h"
 #include "tests/fuzz/Fuzzing.h"

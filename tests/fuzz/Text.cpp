@@ -1,12 +1,11 @@
 // Conversions lose nothing, and ASCII, which is handled apart, gets the answer of any other text.
-#include "base/Text.h"
-
 #include <unicode/unistr.h>
 #include <unicode/unorm.h>
 
 #include <string>
 
 #include "base/PercentEncoding.h"
+#include "base/Unicode.h"
 #include "tests/fuzz/Fuzzing.h"
 
 using namespace launcher;

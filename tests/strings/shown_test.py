@@ -10,17 +10,17 @@ class CodeTest(unittest.TestCase):
         self.assertEqual(texts_of_code(source), expected)
 
     def test_key_and_comment(self):
-        self.check('inline constexpr Text ok{"OK", "OK button"};', {"OK": "OK button"})
+        self.check('inline constexpr LocalizableText ok{"OK", "OK button"};', {"OK": "OK button"})
 
     def test_literals_over_several_lines(self):
-        self.check('Text long{\n    "One "\n    "text",\n    "Its "\n    "comment"};',
+        self.check('LocalizableText long{\n    "One "\n    "text",\n    "Its "\n    "comment"};',
                    {"One text": "Its comment"})
 
     def test_escaped_quote(self):
-        self.check(r'Text quote{"Say \"%@\"", "A, {b}"};', {'Say "%@"': "A, {b}"})
+        self.check(r'LocalizableText quote{"Say \"%@\"", "A, {b}"};', {'Say "%@"': "A, {b}"})
 
     def test_what_is_no_text(self):
-        self.check('struct Text {\n  std::string_view key;\n};\nconst Text& status(int state);', {})
+        self.check('struct LocalizableText {\n  std::string_view key;\n};\nconst LocalizableText& status(int state);', {})
 
 
 class LayoutTest(unittest.TestCase):

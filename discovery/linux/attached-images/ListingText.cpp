@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "discovery/linux/XmlText.h"
 
 namespace launcher {

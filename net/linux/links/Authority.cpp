@@ -2,7 +2,7 @@
 
 #include <arpa/inet.h>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "net/linux/links/Traits.h"
 
 namespace launcher::links {

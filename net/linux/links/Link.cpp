@@ -3,7 +3,7 @@
 #include <string>
 
 #include "base/PercentEncoding.h"
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "net/linux/links/HostName.h"
 
 namespace launcher::links {

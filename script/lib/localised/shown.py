@@ -4,7 +4,7 @@ import re
 import xml.etree.ElementTree
 
 _LITERALS = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'
-_TEXT = re.compile(rf"\bText\s+\w+\s*{{\s*{_LITERALS},\s*{_LITERALS}}}")
+_TEXT = re.compile(rf"\bLocalizableText\s+\w+\s*{{\s*{_LITERALS},\s*{_LITERALS}}}")
 _LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
 
 # Placeholders are left out: they are example addresses, the same in every language.
@@ -17,7 +17,7 @@ def _joined(literals):
 
 
 def texts_of_code(source):
-    """Key → translators' comment, of every Text that the source defines."""
+    """Key → translators' comment, of every LocalizableText that the source defines."""
     return {_joined(key): _joined(comment) for key, comment in _TEXT.findall(source)}
 
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "base/UnicodeRules.h"
 
 // The Unicode Consortium's own test files, where the system has them.

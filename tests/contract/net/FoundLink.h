@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "net/LinkDetector.h"
 
 namespace launcher {

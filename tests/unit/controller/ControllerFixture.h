@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "controller/LauncherController.h"
 #include "tests/doubles/FakeBundle.h"
 #include "tests/doubles/FakeHostResolver.h"

@@ -31,16 +31,16 @@ struct Evaluation {
   bool viewerRuns;
   bool enabled;
   const char* title;
-  FieldColour colour;
+  AddressMark colour;
   const char* info;
 };
 
 TEST_F(UpdateStateTest, ShowsWhatTheFieldsAndTheProcessTableGive) {
   constexpr auto good = "https://server.example";
   constexpr auto kept = "as laid out";
-  constexpr auto white = FieldColour::white;
-  constexpr auto green = FieldColour::green;
-  constexpr auto red = FieldColour::red;
+  constexpr auto white = AddressMark::empty;
+  constexpr auto green = AddressMark::valid;
+  constexpr auto red = AddressMark::invalid;
   const Evaluation table[] = {
       {"", "", false, false, kept, white, invalidText},
       {"", "", true, false, kept, white, invalidText},

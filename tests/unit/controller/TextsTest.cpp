@@ -10,7 +10,7 @@ namespace launcher {
 namespace {
 
 struct Expected {
-  const Text& text;
+  const LocalizableText& text;
   const char* key;
   const char* comment;
 };

@@ -30,7 +30,7 @@ TEST_F(AlertPanelTest, ShowsNothingElse) {
                     shown = alertTexts();
                     pressReturn();
                   }];
-  WindowBridge(controller).show(alert_);
+  WindowBridge(controller).showAlert(alert_);
   EXPECT_EQ(shown, (Texts{alert_.message, alert_.informative, alert_.button}));
 }
 
@@ -52,7 +52,7 @@ TEST_F(AlertPanelTest, AboutShowsTheProgramsNameAndVersion) {
 TEST_F(AlertPanelTest, EscapeDismissesItToo) {
   ViewController* controller = loadedController();
   [DuringAlert after:0.1 do:[] { pressEscape(); }];
-  WindowBridge(controller).show(alert_);
+  WindowBridge(controller).showAlert(alert_);
   EXPECT_EQ([NSApp modalWindow], nil);
 }
 
@@ -64,7 +64,7 @@ TEST_F(AlertPanelTest, StandsInTheMiddleOfItsWindow) {
                     frame = [[NSApp modalWindow] frame];
                     pressReturn();
                   }];
-  WindowBridge(window.controller()).show(alert_);
+  WindowBridge(window.controller()).showAlert(alert_);
   EXPECT_NEAR(NSMidX(frame), NSMidX([window.window() frame]), 2);
 }
 
@@ -77,7 +77,7 @@ TEST_F(AlertPanelTest, TheWindowIsDrawnBeforeItComesUp) {
                     drawn = ![[window.controller() infoLabel] needsDisplay];
                     pressReturn();
                   }];
-  WindowBridge(window.controller()).show(alert_);
+  WindowBridge(window.controller()).showAlert(alert_);
   EXPECT_TRUE(drawn);
 }
 

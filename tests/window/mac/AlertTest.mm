@@ -30,7 +30,7 @@ TEST_F(AlertTest, ShowsItsTextsAndItsButtonUntilItIsDismissed) {
                     shown = alertTexts();
                     pressReturn();
                   }];
-  WindowBridge(controller).show(alert_);
+  WindowBridge(controller).showAlert(alert_);
   EXPECT_THAT(shown, testing::IsSupersetOf({alert_.message, alert_.informative, alert_.button}));
   EXPECT_EQ([NSApp modalWindow], nil);
 }
@@ -46,7 +46,7 @@ TEST_F(AlertTest, AnItemPostedMeanwhileRunsAfterwards) {
                     ranDuringAlert = ran;
                     pressReturn();
                   }];
-  mainQueue->add([&] { WindowBridge(controller).show(alert_); });
+  mainQueue->add([&] { WindowBridge(controller).showAlert(alert_); });
   EXPECT_TRUE(eventually([&ran] { return ran; }));
   EXPECT_FALSE(ranDuringAlert);
 }

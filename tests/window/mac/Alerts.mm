@@ -42,7 +42,7 @@ void addTexts(NSView* view, Texts& texts) {
   if ([view isKindOfClass:[NSTextField class]]) {
     texts.push_back(textOf(static_cast<NSTextField*>(view)));
   } else if ([view isKindOfClass:[NSButton class]]) {
-    texts.push_back(fromToolkit([static_cast<NSButton*>(view) title]));
+    texts.push_back(toStdString([static_cast<NSButton*>(view) title]));
   }
   for (NSView* part in [view subviews]) addTexts(part, texts);
 }

@@ -17,9 +17,9 @@
 namespace launcher {
 
 /// Those that quitting asks for.
-const Services& services() {
+const PlatformServices& platformServices() {
   static const auto* const instance = [] {
-    auto* made = new Services;
+    auto* made = new PlatformServices;
     made->processes = std::make_unique<FakeProcessTable>();
     return made;
   }();
@@ -29,7 +29,7 @@ const Services& services() {
 namespace {
 
 FakeProcessTable& processesAtQuit() {
-  return dynamic_cast<FakeProcessTable&>(*services().processes);
+  return dynamic_cast<FakeProcessTable&>(*platformServices().processes);
 }
 
 /// A program that waits to be signalled; it runs already. It does not hold back the signals that

@@ -34,7 +34,7 @@ TEST(ConversionsTest, TextsComeAsUtf8) {
       {[smile substringFromIndex:1], "\ufffd"},
   };
   for (const auto& [given, expected] : cases) {
-    EXPECT_EQ(fromToolkit(given), expected) << [[given description] UTF8String];
+    EXPECT_EQ(toStdString(given), expected) << [[given description] UTF8String];
   }
 }
 
@@ -53,23 +53,23 @@ TEST(ConversionsTest, TextsGoAsUtf16) {
       {"a\xff", {'a', 0xfffd}},
   };
   for (const auto& [given, expected] : cases) {
-    EXPECT_TRUE([toToolkit(given) isEqualToString:units(expected)]) << given;
+    EXPECT_TRUE([toNSString(given) isEqualToString:units(expected)]) << given;
   }
 }
 
 TEST(ConversionsTest, AbsenceGoesAsNil) {
-  EXPECT_EQ(toToolkitOrNil(std::nullopt), nil);
-  EXPECT_TRUE([toToolkitOrNil("x") isEqualToString:@"x"]);
-  EXPECT_TRUE([toToolkitOrNil("") isEqualToString:@""]);
+  EXPECT_EQ(toNSStringOrNil(std::nullopt), nil);
+  EXPECT_TRUE([toNSStringOrNil("x") isEqualToString:@"x"]);
+  EXPECT_TRUE([toNSStringOrNil("") isEqualToString:@""]);
 }
 
 TEST(ConversionsTest, UrlsComeByTheirAbsoluteText) {
-  EXPECT_EQ(fromToolkit([NSURL fileURLWithPath:@"/a b/\u4e2d.dmg"])->filePath(), "/a b/\u4e2d.dmg");
-  EXPECT_EQ(fromToolkit([NSURL URLWithString:@"https://h/D/F"])->absoluteString(), "https://h/D/F");
-  EXPECT_EQ(fromToolkit(static_cast<NSURL*>(nil)), std::nullopt);
+  EXPECT_EQ(toUrl([NSURL fileURLWithPath:@"/a b/\u4e2d.dmg"])->filePath(), "/a b/\u4e2d.dmg");
+  EXPECT_EQ(toUrl([NSURL URLWithString:@"https://h/D/F"])->absoluteString(), "https://h/D/F");
+  EXPECT_EQ(toUrl(static_cast<NSURL*>(nil)), std::nullopt);
 }
 
-PropertyList valueOf(id object) { return *valueAt(fromToolkit(@{@"key" : object}), "key"); }
+PropertyList valueOf(id object) { return *valueAt(toDictionary(@{@"key" : object}), "key"); }
 
 TEST(ConversionsTest, ListsComeWithWhatIsReadOfThem) {
   using Array = PropertyList::Array;

@@ -39,9 +39,9 @@ TEST_F(MessagesTest, PassesTheRepresentedObjectThrough) {
 
 TEST_F(MessagesTest, ChoosesTheAddress) {
   stage().resolver.answer = {ipv4("192.0.2.1")};
-  EXPECT_EQ(fromToolkit([controller_ getIpAddressWithDomain:@"host" manualIP:@"10.0.0.5"]),
+  EXPECT_EQ(toStdString([controller_ getIpAddressWithDomain:@"host" manualIP:@"10.0.0.5"]),
             "10.0.0.5");
-  EXPECT_EQ(fromToolkit([controller_ getIpAddressWithDomain:@"host" manualIP:@""]), "192.0.2.1");
+  EXPECT_EQ(toStdString([controller_ getIpAddressWithDomain:@"host" manualIP:@""]), "192.0.2.1");
   stage().resolver.answer.reset();
   EXPECT_EQ([controller_ getIpAddressWithDomain:@"host" manualIP:@""], nil);
 }
@@ -55,7 +55,7 @@ TEST_F(MessagesTest, FollowsAListingToTheServer) {
   stage().bundle.folder = "/Volumes/Vorx/VorxLauncher.app";
   stage().origin.values["/D/i \u4e2d.dmg"] =
       "<plist><array><string>https://h/D/F</string></array></plist>";
-  EXPECT_EQ(fromToolkit([controller_
+  EXPECT_EQ(toStdString([controller_
                 processDMGDataWithPlist:listingOf(@"/D/i \u4e2d.dmg", @"/Volumes/Vorx")]),
             "https://h/D/");
   EXPECT_EQ([controller_ processDMGDataWithPlist:listingOf(@"/D/i \u4e2d.dmg", @"/elsewhere")],
@@ -65,7 +65,7 @@ TEST_F(MessagesTest, FollowsAListingToTheServer) {
 TEST_F(MessagesTest, ReadsTheOriginOfAFile) {
   stage().origin.values["/D/a b.dmg"] = "<plist><array><string>http://h/F</string></array></plist>";
   EXPECT_EQ(
-      fromToolkit([controller_ extractWhereAreYouFromUrl:[NSURL fileURLWithPath:@"/D/a b.dmg"]]),
+      toStdString([controller_ extractWhereAreYouFromUrl:[NSURL fileURLWithPath:@"/D/a b.dmg"]]),
       "http://h/");
   EXPECT_EQ([controller_ extractWhereAreYouFromUrl:[NSURL fileURLWithPath:@"/D/c.dmg"]], nil);
 }

@@ -99,6 +99,6 @@ void finishWork(ViewController* controller) {
   settle();
 }
 
-std::string textOf(NSTextField* field) { return fromToolkit([field stringValue]); }
+std::string textOf(NSTextField* field) { return toStdString([field stringValue]); }
 
 }  // namespace launcher

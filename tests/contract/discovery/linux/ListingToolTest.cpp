@@ -13,7 +13,7 @@
 #include <thread>
 
 #include "base/Sleeper.h"
-#include "discovery/AttachedImages.h"
+#include "discovery/ListingRun.h"
 #include "discovery/ListingTool.h"
 #include "tests/contract/Eventually.h"
 #include "tests/contract/Processes.h"

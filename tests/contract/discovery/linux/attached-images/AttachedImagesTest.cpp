@@ -10,9 +10,9 @@
 
 #include "base/Sleeper.h"
 #include "base/linux/Spawn.h"
-#include "discovery/AttachedImages.h"
 #include "discovery/DownloadOrigin.h"
 #include "discovery/ImageRecords.h"
+#include "discovery/ListingRun.h"
 #include "tests/contract/Pipe.h"
 #include "tests/contract/ScratchFolder.h"
 #include "tests/contract/discovery/FileAttributes.h"

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 #include "discovery/PropertyList.h"
 #include "discovery/linux/attached-images/ListingText.h"
 

@@ -1,7 +1,7 @@
 #include <algorithm>
 
 #include "base/CodePoints.h"
-#include "base/Text.h"
+#include "base/Unicode.h"
 
 namespace launcher {
 namespace {

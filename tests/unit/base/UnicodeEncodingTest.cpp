@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 
 namespace launcher {
 namespace {
@@ -14,7 +14,7 @@ struct WellFormedCase {
   std::u16string_view units;
 };
 
-TEST(TextEncodingTest, ConvertsWellFormedTextsBothWays) {
+TEST(UnicodeEncodingTest, ConvertsWellFormedTextsBothWays) {
   constexpr WellFormedCase kCases[] = {
       {"", u""},
       {"abc", u"abc"},
@@ -37,7 +37,7 @@ struct IllFormedCase {
   std::string_view repaired;
 };
 
-TEST(TextEncodingTest, ReplacesEachIllFormedSequenceOnce) {
+TEST(UnicodeEncodingTest, ReplacesEachIllFormedSequenceOnce) {
   constexpr IllFormedCase kCases[] = {
       {"\x80", "\ufffd"},
       {"\xbf\x80", "\ufffd\ufffd"},
@@ -67,7 +67,7 @@ TEST(TextEncodingTest, ReplacesEachIllFormedSequenceOnce) {
   }
 }
 
-TEST(TextEncodingTest, ReplacesLoneSurrogates) {
+TEST(UnicodeEncodingTest, ReplacesLoneSurrogates) {
   const auto units = [](std::initializer_list<char16_t> list) { return std::u16string(list); };
   EXPECT_EQ(utf8(units({0xD800})), "\ufffd");
   EXPECT_EQ(utf8(units({0xDC00})), "\ufffd");

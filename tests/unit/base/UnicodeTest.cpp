@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "base/Text.h"
+#include "base/Unicode.h"
 
 namespace launcher {
 namespace {
@@ -14,7 +14,7 @@ struct CountCase {
   std::size_t characters;
 };
 
-TEST(TextTest, CountsCharactersAsPeopleSeeThem) {
+TEST(UnicodeTest, CountsCharactersAsPeopleSeeThem) {
   constexpr CountCase kCases[] = {
       {"", 0},
       {"a", 1},
@@ -47,7 +47,7 @@ struct DecompositionCase {
   std::string_view decomposed;
 };
 
-TEST(TextTest, DecomposesCanonically) {
+TEST(UnicodeTest, DecomposesCanonically) {
   constexpr DecompositionCase kCases[] = {
       {"", ""},
       {"vexlink", "vexlink"},
@@ -71,7 +71,7 @@ struct EqualityCase {
   bool equal;
 };
 
-TEST(TextTest, ComparesBytesInAsciiElseCanonicalEquivalence) {
+TEST(UnicodeTest, ComparesBytesInAsciiElseCanonicalEquivalence) {
   constexpr EqualityCase kCases[] = {
       {"", "", true},
       {"", "a", false},
@@ -103,7 +103,7 @@ struct PrefixCase {
   bool passes;
 };
 
-TEST(TextTest, TestsPrefixesInBytesForAsciiElseDecomposed) {
+TEST(UnicodeTest, TestsPrefixesInBytesForAsciiElseDecomposed) {
   constexpr PrefixCase kCases[] = {
       {"", "", true},
       {"vexlink", "", true},
@@ -130,14 +130,14 @@ TEST(TextTest, TestsPrefixesInBytesForAsciiElseDecomposed) {
   }
 }
 
-TEST(TextTest, AsciiEndsBelow0x80) {
+TEST(UnicodeTest, AsciiEndsBelow0x80) {
   EXPECT_TRUE(isAscii(""));
   EXPECT_TRUE(isAscii("\0\x01 ~\x7f"sv));
   EXPECT_FALSE(isAscii("\x80"));
   EXPECT_FALSE(isAscii("a\xff"));
 }
 
-TEST(TextTest, AsciiIsToldAtEveryPlaceOfALongText) {
+TEST(UnicodeTest, AsciiIsToldAtEveryPlaceOfALongText) {
   for (std::size_t at = 0; at < 100; ++at) {
     std::string text(100, 'a');
     text[at] = '\x80';

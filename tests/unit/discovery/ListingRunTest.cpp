@@ -7,7 +7,7 @@
 #include <thread>
 #include <vector>
 
-#include "discovery/AttachedImages.h"
+#include "discovery/ListingRun.h"
 #include "tests/doubles/FakeListingTool.h"
 #include "tests/doubles/FakeSleeper.h"
 
@@ -25,7 +25,7 @@ std::size_t placeOf(const std::vector<std::string>& events, const std::string& e
 }
 
 /// One search, with what the test puts in its way.
-class AttachedImagesTest : public testing::Test {
+class ListingRunTest : public testing::Test {
  protected:
   std::optional<std::string> search() {
     return extractSourceFromDMG(
@@ -55,27 +55,27 @@ class AttachedImagesTest : public testing::Test {
   int runs_ = 0;
 };
 
-TEST_F(AttachedImagesTest, ReturnsWhatTheListingIsJudgedToBe) {
+TEST_F(ListingRunTest, ReturnsWhatTheListingIsJudgedToBe) {
   tool_->output = {kListing};
   EXPECT_EQ(search(), "https://h/D/");
   EXPECT_THAT(judged(), ElementsAre("all"));
   EXPECT_EQ(runs_, 1);
 }
 
-TEST_F(AttachedImagesTest, ReturnsNothingWhereNothingIsFound) {
+TEST_F(ListingRunTest, ReturnsNothingWhereNothingIsFound) {
   tool_->output = {kListing};
   location_ = std::nullopt;
   EXPECT_EQ(search(), std::nullopt);
   EXPECT_THAT(judged(), ElementsAre("all"));
 }
 
-TEST_F(AttachedImagesTest, JoinsManyPiecesInTheirOrder) {
+TEST_F(ListingRunTest, JoinsManyPiecesInTheirOrder) {
   for (const char c : kListing) tool_->output.emplace_back(1, c);
   EXPECT_EQ(search(), "https://h/D/");
   EXPECT_THAT(judged(), ElementsAre("all"));
 }
 
-TEST_F(AttachedImagesTest, SetsBothHandlersBeforeTheLaunch) {
+TEST_F(ListingRunTest, SetsBothHandlersBeforeTheLaunch) {
   tool_->output = {kListing};
   search();
   const std::vector<std::string> events = tool_->events();
@@ -85,7 +85,7 @@ TEST_F(AttachedImagesTest, SetsBothHandlersBeforeTheLaunch) {
   EXPECT_LT(placeOf(events, "waited for"), events.size());
 }
 
-TEST_F(AttachedImagesTest, PausesThenRemovesTheHandlerThenJudges) {
+TEST_F(ListingRunTest, PausesThenRemovesTheHandlerThenJudges) {
   tool_->output = {kListing};
   sleeper_.onSleep = [this] { tool_->note("paused"); };
   search();
@@ -96,20 +96,20 @@ TEST_F(AttachedImagesTest, PausesThenRemovesTheHandlerThenJudges) {
   EXPECT_THAT(sleeper_.sleeps, ElementsAre(1.0));
 }
 
-TEST_F(AttachedImagesTest, OutputDuringThePauseCounts) {
+TEST_F(ListingRunTest, OutputDuringThePauseCounts) {
   tool_->output = {kListing.substr(0, 20)};
   sleeper_.onSleep = [this] { tool_->print(kListing.substr(20)); };
   EXPECT_EQ(search(), "https://h/D/");
 }
 
-TEST_F(AttachedImagesTest, OutputAfterThePauseIsLost) {
+TEST_F(ListingRunTest, OutputAfterThePauseIsLost) {
   tool_->output = {kListing.substr(0, 20)};
   search();
   tool_->print(kListing.substr(20));
   EXPECT_THAT(judged(), ElementsAre());
 }
 
-TEST_F(AttachedImagesTest, WaitsForTheJudgementAfterTheToolHasEnded) {
+TEST_F(ListingRunTest, WaitsForTheJudgementAfterTheToolHasEnded) {
   tool_->output = {kListing};
   sleeper_.onSleep = [this] {
     while (placeOf(tool_->events(), "waited for") == tool_->events().size()) {
@@ -119,7 +119,7 @@ TEST_F(AttachedImagesTest, WaitsForTheJudgementAfterTheToolHasEnded) {
   EXPECT_EQ(search(), "https://h/D/");
 }
 
-TEST_F(AttachedImagesTest, WhatIsNoPropertyListGivesNothing) {
+TEST_F(ListingRunTest, WhatIsNoPropertyListGivesNothing) {
   const std::string outputs[] = {
       "",
       "attached-images: no such device\n",
@@ -137,7 +137,7 @@ TEST_F(AttachedImagesTest, WhatIsNoPropertyListGivesNothing) {
   EXPECT_EQ(sleeper_.sleeps, std::vector<double>(std::size(outputs), 1.0));
 }
 
-TEST_F(AttachedImagesTest, AToolThatCannotBeStartedGivesNothingAtOnce) {
+TEST_F(ListingRunTest, AToolThatCannotBeStartedGivesNothingAtOnce) {
   tool_->startable = false;
   EXPECT_EQ(search(), std::nullopt);
   EXPECT_EQ(placeOf(tool_->events(), "waited for"), tool_->events().size());
@@ -145,7 +145,7 @@ TEST_F(AttachedImagesTest, AToolThatCannotBeStartedGivesNothingAtOnce) {
   EXPECT_THAT(judged(), ElementsAre());
 }
 
-TEST_F(AttachedImagesTest, EverySearchIsARunOfItsOwn) {
+TEST_F(ListingRunTest, EverySearchIsARunOfItsOwn) {
   tool_->output = {kListing};
   search();
   tool_ = std::make_shared<FakeListingTool>();
@@ -155,7 +155,7 @@ TEST_F(AttachedImagesTest, EverySearchIsARunOfItsOwn) {
   EXPECT_EQ(runs_, 2);
 }
 
-TEST_F(AttachedImagesTest, NothingOfASearchStays) {
+TEST_F(ListingRunTest, NothingOfASearchStays) {
   for (const bool startable : {true, false}) {
     tool_ = std::make_shared<FakeListingTool>();
     tool_->startable = startable;
@@ -167,7 +167,7 @@ TEST_F(AttachedImagesTest, NothingOfASearchStays) {
   }
 }
 
-using AttachedImagesDeathTest = AttachedImagesTest;
+using AttachedImagesDeathTest = ListingRunTest;
 
 TEST_F(AttachedImagesDeathTest, AListingThatIsNoDictionaryEndsTheProgram) {
   for (const char* list : {"<array/>", "<string>images</string>", "<true/>"}) {

@@ -1,12 +1,12 @@
-#include "discovery/AttachedImages.h"
+#include "discovery/ListingRun.h"
 
 #include <memory>
 #include <string_view>
 
 #include "base/FatalError.h"
 #include "base/SDLog.h"
-#include "base/Text.h"
-#include "discovery/DoneSignal.h"
+#include "base/Unicode.h"
+#include "discovery/Semaphore.h"
 
 namespace launcher {
 namespace {
@@ -21,7 +21,7 @@ void log(const Message& message) {
 struct Search {
   std::string output;
   std::optional<std::string> location;
-  std::unique_ptr<DoneSignal> done = makeDoneSignal();
+  Semaphore done;
 };
 
 /// The bytes as a text, or absent where they are none.
@@ -32,7 +32,7 @@ std::optional<std::string_view> asText(std::string_view bytes) {
 const PropertyList::Dictionary& asDictionary(const PropertyList& listing) {
   const PropertyList::Dictionary* dictionary = listing.dictionary();
   if (dictionary == nullptr) {
-    fatalError("the listing is not a dictionary with text keys", "AttachedImages", __LINE__);
+    fatalError("the listing is not a dictionary with text keys", "ListingRun", __LINE__);
   }
   return *dictionary;
 }
@@ -53,7 +53,7 @@ void toolEnded(ListingTool& tool, Search& search, Sleeper& sleeper, const Listin
   sleeper.sleep(kSecondsForLastOutput);
   tool.setOutputHandler({});
   search.location = judged(search.output, judge);
-  search.done->signal();
+  search.done.signal();
 }
 
 }  // namespace
@@ -63,8 +63,8 @@ std::optional<std::string> extractSourceFromDMG(const ListingToolMaker& makeTool
   const auto search = std::make_shared<Search>();
   const std::shared_ptr<ListingTool> tool = makeTool();
 
-  // What the exit handler refers to outlives it: this thread waits for its signal. The signal
-  // itself it shares, being still in it when this thread goes on.
+  // The exit handler may refer to what is this thread's own, since this thread waits for its
+  // signal. It co-owns the semaphore: it may still be inside `signal()` when this thread returns.
   tool->setExitHandler(
       [search, &tool = *tool, &sleeper, &judge] { toolEnded(tool, *search, sleeper, judge); });
   tool->setOutputHandler([search](std::string_view bytes) { search->output += bytes; });
@@ -72,7 +72,7 @@ std::optional<std::string> extractSourceFromDMG(const ListingToolMaker& makeTool
   if (!tool->launch()) return std::nullopt;
   tool->waitUntilExit();
   log("waited for the listing tool");
-  search->done->wait();
+  search->done.wait();
   log(search->location);
   return search->location;
 }

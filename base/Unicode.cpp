@@ -1,4 +1,4 @@
-#include "base/Text.h"
+#include "base/Unicode.h"
 
 #include "base/UnicodeRules.h"
 

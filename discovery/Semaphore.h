@@ -1,0 +1,25 @@
+#pragma once
+
+#include <memory>
+
+namespace launcher {
+
+/// A counting semaphore that starts at 0. Any thread.
+class Semaphore {
+ public:
+  Semaphore();
+  ~Semaphore();
+  Semaphore(const Semaphore&) = delete;
+  Semaphore& operator=(const Semaphore&) = delete;
+
+  void signal();
+
+  /// Blocks, without a time limit, until a signal can be taken.
+  void wait();
+
+ private:
+  struct State;
+  std::unique_ptr<State> state_;
+};
+
+}  // namespace launcher
