@@ -31,7 +31,8 @@ void LaunchControl::launchProc(const std::string& location, const std::string& i
 }
 
 void LaunchControl::terminateProc() {
-  if (const auto viewer = replaceRunningProcess(nullptr)) viewer->terminate();
+  if (const auto viewer = runningProcess()) viewer->terminate();
+  replaceRunningProcess(nullptr);
 }
 
 std::shared_ptr<RunningProcess> LaunchControl::runningProcess() const {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <mutex>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <thread>
@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "discovery/ListingTool.h"
+#include "tests/doubles/EventLog.h"
 
 namespace launcher {
 
@@ -17,6 +18,7 @@ class FakeListingTool : public ListingTool {
  public:
   bool startable = true;
   std::vector<std::string> output;
+  std::shared_ptr<EventLog> log = std::make_shared<EventLog>();
 
   FakeListingTool() = default;
   FakeListingTool(const FakeListingTool&) = delete;
@@ -26,44 +28,31 @@ class FakeListingTool : public ListingTool {
   }
 
   void setOutputHandler(OutputHandler handler) override {
-    note(handler ? "output handler set" : "output handler removed");
+    log->note(handler ? "output handler set" : "output handler removed");
     outputHandler_ = std::move(handler);
   }
 
   void setExitHandler(ExitHandler handler) override {
-    note("exit handler set");
+    log->note("exit handler set");
     exitHandler_ = std::move(handler);
   }
 
   bool launch() override {
-    note("launched");
+    log->note("launched");
     if (!startable) return false;
     for (const std::string& piece : output) print(piece);
     exit_ = std::thread([handler = std::move(exitHandler_)] { handler(); });
     return true;
   }
 
-  void waitUntilExit() override { note("waited for"); }
+  void waitUntilExit() override { log->note("waited for"); }
 
   /// Prints more, which is lost where nobody listens.
   void print(std::string_view bytes) {
     if (outputHandler_) outputHandler_(bytes);
   }
 
-  void note(const char* event) {
-    const std::lock_guard lock(mutex_);
-    events_.emplace_back(event);
-  }
-
-  /// What happened so far, in order.
-  std::vector<std::string> events() {
-    const std::lock_guard lock(mutex_);
-    return events_;
-  }
-
  private:
-  std::mutex mutex_;
-  std::vector<std::string> events_;
   OutputHandler outputHandler_;
   ExitHandler exitHandler_;
   std::thread exit_;

@@ -5,12 +5,14 @@
 #include <cstddef>
 #include <cstring>
 #include <deque>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string_view>
 #include <vector>
 
 #include "process/ProcessTable.h"
+#include "tests/doubles/EventLog.h"
 
 namespace launcher {
 
@@ -31,11 +33,13 @@ inline ProcessRecord processRecord(ProcessId pid, std::string_view name) {
 ///     table.probes = {{.result = -1, .error = EPERM}};       and the first size probe fails
 class FakeProcessTable : public ProcessTable {
  public:
-  /// An answer in the table's place.
+  /// An answer in the table's place. A size probe leaves the length as it is where the answer has
+  /// none. A fetch then sets it to what it filled in; one that fails sets it to 0, whatever it
+  /// filled in, as the product's kernel does.
   struct Answer {
     int result = 0;
     int error = 0;                      ///< `errno` afterwards
-    std::optional<std::size_t> length;  ///< in bytes, of a size probe; absent: left as it is
+    std::optional<std::size_t> length;  ///< in bytes, afterwards; absent: see below
     ProcessRecords records;             ///< filled in by a fetch
   };
 
@@ -45,6 +49,7 @@ class FakeProcessTable : public ProcessTable {
   mutable std::deque<Answer> fetches;           ///< what the first fetches answer
   std::set<ProcessId> ended;                    ///< listed, but not running any more
 
+  std::shared_ptr<EventLog> log = std::make_shared<EventLog>();
   mutable int searches = 0;                         ///< size probes so far
   mutable std::vector<std::size_t> fetchedLengths;  ///< of the buffers so far, in bytes
 
@@ -53,6 +58,7 @@ class FakeProcessTable : public ProcessTable {
 
   int probeSize(std::size_t& length) const override {
     ++searches;
+    log->note("ask process table");
     if (!probes.empty()) {
       return play(probes, [&](const Answer& now) { length = now.length.value_or(length); });
     }
@@ -63,7 +69,11 @@ class FakeProcessTable : public ProcessTable {
   int fetch(std::byte* buffer, std::size_t& length) const override {
     fetchedLengths.push_back(length);
     if (!fetches.empty()) {
-      return play(fetches, [&](const Answer& now) { fill(now.records, buffer, length); });
+      return play(fetches, [&](const Answer& now) {
+        fill(now.records, buffer, length);
+        if (now.result != 0) length = 0;
+        length = now.length.value_or(length);
+      });
     }
     fill(shown(), buffer, length);
     if (!upcoming.empty()) upcoming.pop_front();

@@ -1,21 +1,25 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "base/Sleeper.h"
+#include "tests/doubles/EventLog.h"
 
 namespace launcher {
 
-/// Remembers each rest, in seconds, and takes none.
+/// Remembers each rest, in seconds, takes none, and logs its end.
 class FakeSleeper : public Sleeper {
  public:
   std::vector<double> sleeps;
+  std::shared_ptr<EventLog> log = std::make_shared<EventLog>();
   std::function<void()> onSleep = [] {};
 
   void sleep(double seconds) override {
     sleeps.push_back(seconds);
     onSleep();
+    log->note("sleep");
   }
 };
 

@@ -7,21 +7,22 @@
 #include <vector>
 
 #include "controller/LauncherWindow.h"
+#include "tests/doubles/EventLog.h"
 
 namespace launcher {
 
-/// A window that remembers what it shows, and every call that changed it, in order.
+/// A window that remembers what it shows, and logs every call that changes it.
 class FakeWindow : public LauncherWindow {
  public:
   std::string location;
   std::string ip;
   std::string info = "as laid out";
   std::string buttonTitle = "as laid out";
-  std::optional<AddressMark> ipColour;
+  std::optional<AddressMark> ipMark;
   bool buttonEnabled = false;
   bool locationEnabled = true;
   std::vector<Alert> alerts;
-  std::vector<std::string> calls;
+  std::shared_ptr<EventLog> log = std::make_shared<EventLog>();
   std::function<void()> whileAlertIsUp = [] {};
 
   /// How many tokens of `keepAlive` are held.
@@ -30,32 +31,32 @@ class FakeWindow : public LauncherWindow {
   std::string vorxLocation() const override { return location; }
   void setVorxLocation(const std::string& text) override {
     location = text;
-    calls.push_back("location " + text);
+    log->note("location " + text);
   }
   void setVorxLocation(Availability availability) override {
     locationEnabled = availability == Availability::enabled;
-    calls.emplace_back(locationEnabled ? "enable location" : "disable location");
+    log->note(locationEnabled ? "enable location" : "disable location");
   }
   std::string ipAddress() const override { return ip; }
-  void setIpAddressMark(AddressMark colour) override {
-    ipColour = colour;
-    calls.emplace_back("colour ip");
+  void setIpAddressMark(AddressMark mark) override {
+    ipMark = mark;
+    log->note("mark ip");
   }
   void setLaunchButton(Availability availability) override {
     buttonEnabled = availability == Availability::enabled;
-    calls.emplace_back(buttonEnabled ? "enable button" : "disable button");
+    log->note(buttonEnabled ? "enable button" : "disable button");
   }
   void setLaunchButtonTitle(const std::string& title) override {
     buttonTitle = title;
-    calls.push_back("title " + title);
+    log->note("title " + title);
   }
   void setInfoLabel(const std::string& text) override {
     info = text;
-    calls.push_back("info " + text);
+    log->note("info " + text);
   }
   void showAlert(const Alert& alert) override {
     alerts.push_back(alert);
-    calls.push_back("alert " + alert.message);
+    log->note("alert " + alert.message);
     whileAlertIsUp();
   }
   std::shared_ptr<void> keepAlive() override { return token_; }

@@ -3,19 +3,24 @@
 #include <cstddef>
 #include <deque>
 #include <functional>
+#include <memory>
+#include <string>
 #include <utility>
 
 #include "controller/WorkQueue.h"
+#include "tests/doubles/EventLog.h"
 
 namespace launcher {
 
 /// A queue whose items run when the test says so.
 class ManualQueue : public WorkQueue {
  public:
-  std::function<void()> onAdd = [] {};
+  explicit ManualQueue(std::string name) : name_(std::move(name)) {}
+
+  std::shared_ptr<EventLog> log = std::make_shared<EventLog>();
 
   void add(std::function<void()> item) override {
-    onAdd();
+    log->note("queue " + name_);
     items_.push_back(std::move(item));
   }
 
@@ -32,6 +37,7 @@ class ManualQueue : public WorkQueue {
   }
 
  private:
+  std::string name_;
   std::deque<std::function<void()>> items_;
 };
 

@@ -19,17 +19,17 @@
 #include "tests/doubles/FakeTranslations.h"
 #include "tests/doubles/FakeWindow.h"
 #include "tests/doubles/ManualQueue.h"
-#include "tests/doubles/WholeTextLinkDetector.h"
+#include "tests/doubles/WordLinkDetector.h"
 
 namespace launcher {
 
 /// Notes the texts that are searched for a link.
-class NotingLinkDetector : public WholeTextLinkDetector {
+class NotingLinkDetector : public WordLinkDetector {
  public:
   std::optional<LinkMatch> firstMatch(std::u16string_view text, std::size_t length) const override {
     ++searches;
     lastText = utf8(text);
-    return WholeTextLinkDetector::firstMatch(text, length);
+    return WordLinkDetector::firstMatch(text, length);
   }
 
   mutable int searches = 0;
@@ -73,6 +73,11 @@ class ControllerFixture : public testing::Test {
  protected:
   static constexpr ProcessId viewerPid = 42;
 
+  /// All doubles share one log.
+  ControllerFixture() {
+    processes.log = sleeper.log = starter.log = mainQueue.log = background.log = window.log = log;
+  }
+
   void fill(const std::string& location, const std::string& ip) {
     window.location = location;
     window.ip = ip;
@@ -102,6 +107,7 @@ class ControllerFixture : public testing::Test {
     mainQueue.runAll();
   }
 
+  std::shared_ptr<EventLog> log = std::make_shared<EventLog>();
   FakeBundle bundle;
   FakeHostResolver resolver;
   NotingLinkDetector links;
@@ -113,8 +119,8 @@ class ControllerFixture : public testing::Test {
   FakeSleeper sleeper;
   FakeProgramStarter starter;
   LaunchControl launchControl{{bundle, processes, starter, sleeper}};
-  ManualQueue mainQueue;
-  ManualQueue background;
+  ManualQueue mainQueue{"on main thread"};
+  ManualQueue background{"in background"};
   FakeWindow window;
   LauncherController controller{window,
                                 background,

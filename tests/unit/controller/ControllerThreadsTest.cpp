@@ -86,7 +86,7 @@ class ControllerThreadsTest : public testing::Test {
 
   FakeBundle bundle;
   SlowResolver resolver;
-  WholeTextLinkDetector links;
+  WordLinkDetector links;
   OneOrigin origin = [] {
     OneOrigin attribute;
     attribute.list = "<array><string>https://found.example/d/f.dmg</string></array>";

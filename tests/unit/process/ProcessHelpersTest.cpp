@@ -233,6 +233,25 @@ TEST_F(SnapshotTest, AnotherPassReplacesTheArray) {
   EXPECT_EQ(table_.fetchedLengths, (std::vector<std::size_t>{recordBytes, 2 * recordBytes}));
 }
 
+TEST_F(SnapshotTest, AnotherPassStartsFromAnArrayOfZeros) {
+  table_.probes = {{.length = 2 * recordBytes}, {.length = 2 * recordBytes}};
+  table_.fetches = {{.result = 12, .records = {process(8, "vexlink"), process(9, "vexlink")}},
+                    {.records = {process(6, "other")}}};
+  expectFound(noProcess);
+}
+
+// What a fetch says of the length does not shorten the array.
+TEST_F(SnapshotTest, RecordsBehindTheReturnedLengthAreSearched) {
+  for (const int result : {0, -1}) {
+    table_.probes = {{.length = 2 * recordBytes}};
+    table_.fetches = {{.result = result,
+                       .error = ENOMEM,
+                       .length = recordBytes,
+                       .records = {process(6, "other"), process(7, "vexlink")}}};
+    expectFound(7);
+  }
+}
+
 TEST_F(SnapshotTest, AFailingSizeProbeOfALaterPassKeepsTheEarlierArray) {
   table_.probes = {{.length = recordBytes}, {.result = -1, .error = EPERM}};
   table_.fetches = {{.result = 12, .records = {process(9, "vexlink")}}};
@@ -241,11 +260,9 @@ TEST_F(SnapshotTest, AFailingSizeProbeOfALaterPassKeepsTheEarlierArray) {
 
 TEST_F(SnapshotTest, EachPassProbesFromLengthZero) {
   const Answer leavesTheLength{.result = -1, .error = 0};
-  table_.probes = {leavesTheLength};
-  table_.fetches = {{.result = 12}};
-  table_.probes.push_back({.length = recordBytes});
-  table_.fetches.push_back({.result = 12});
-  table_.probes.push_back(leavesTheLength);
+  const Answer leavesAnotherLength{.result = 12, .length = 3 * recordBytes};
+  table_.probes = {leavesTheLength, {.length = recordBytes}, leavesTheLength};
+  table_.fetches = {leavesAnotherLength, leavesAnotherLength};
   expectFound(noProcess);
   EXPECT_EQ(table_.fetchedLengths, (std::vector<std::size_t>{0, recordBytes, 0}));
 }

@@ -14,7 +14,7 @@
 #include "tests/doubles/FakeProgramStarter.h"
 #include "tests/doubles/FakeSleeper.h"
 #include "tests/doubles/FakeTranslations.h"
-#include "tests/doubles/WholeTextLinkDetector.h"
+#include "tests/doubles/WordLinkDetector.h"
 
 namespace launcher {
 
@@ -22,7 +22,7 @@ namespace launcher {
 struct Stage {
   FakeBundle bundle;
   FakeHostResolver resolver;
-  WholeTextLinkDetector links;
+  WordLinkDetector links;
   FakeOriginAttribute origin;
   FakeProcessTable processes;
   FakeProgramStarter starter;
