@@ -46,7 +46,9 @@ endfunction()
 #
 #   launcher_tests(VARIABLE FOLDER)
 function(launcher_tests variable folder)
-  file(GLOB_RECURSE tests CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.mm)
+  # Relative, since a folder above the project may be called like a platform.
+  file(GLOB_RECURSE tests CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}"
+    ${folder}/*.cpp ${folder}/*.mm)
   set(others linux mac)
   list(REMOVE_ITEM others ${PLATFORM})
   list(FILTER tests EXCLUDE REGEX "/(${others}|children)/")

@@ -36,4 +36,4 @@ def _named(name, result):
 
 
 LOGIC = SanitizedSuites(ENVIRONMENT, ["unit-tests", "contract-tests"], apart=True)
-WINDOW = SanitizedSuites(WINDOW_ENVIRONMENT, ["window-tests"], apart=True, display=True)
+WINDOW = SanitizedSuites(WINDOW_ENVIRONMENT, ["appkit-window-tests"], apart=True, display=True)

@@ -21,7 +21,7 @@ SUITES = {
     "sanitizers": sanitizers.LOGIC,
     "fuzz": fuzz,
     "endurance": GoogleTestSuite("endurance-tests", apart=True),
-    "window": GoogleTestSuite("window-tests", apart=True, display=True),
+    "window": GoogleTestSuite("appkit-window-tests", apart=True, display=True),
     "e2e": PythonSuite("tests/e2e", **E2E),
     "macos": PythonSuite("tests/macos"),
     "sanitizers-window": sanitizers.WINDOW,

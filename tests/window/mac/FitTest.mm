@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#import "tests/window/mac/Fonts.h"
 #import "tests/window/mac/Stage.h"
 #import "tests/window/mac/Windows.h"
 
@@ -44,7 +43,7 @@ class FitTest : public testing::TestWithParam<const char*> {
     const NSSize room = [[field cell] titleRectForBounds:[field bounds]].size;
     NSAttributedString* shown = [[[NSAttributedString alloc]
         initWithString:text
-            attributes:@{NSFontAttributeName : windowFont(language_)}] autorelease];
+            attributes:@{NSFontAttributeName : [NSFont systemFontOfSize:13]}] autorelease];
     return [shown boundingRectWithSize:NSMakeSize(room.width, CGFLOAT_MAX)
                                options:NSStringDrawingUsesLineFragmentOrigin]
         .size.height;
@@ -69,7 +68,7 @@ TEST_P(FitTest, TheButtonHasRoomForEachTitle) {
     NSString* title = inLanguage(language_, key);
     ASSERT_NE(title, nil) << key;
     const CGFloat width =
-        [title sizeWithAttributes:@{NSFontAttributeName : windowFont(language_)}].width;
+        [title sizeWithAttributes:@{NSFontAttributeName : [NSFont systemFontOfSize:13]}].width;
     EXPECT_LE(width, [button bounds].size.width - 24) << [title UTF8String];
   }
 }

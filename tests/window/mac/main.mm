@@ -3,8 +3,7 @@
 
 #include <cstdio>
 
-#include "app/mac/PrepareToolkit.h"
-#include "tests/window/mac/Screen.h"
+#include "tests/window/mac/Toolkit.h"
 
 namespace {
 
@@ -17,11 +16,10 @@ int main(int argc, char** argv) {
   @autoreleasepool {
     testing::InitGoogleTest(&argc, argv);
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    if (!launcher::hasScreen()) {
+    if (!launcher::prepareToolkit()) {
       std::puts("no screen to show windows on");
       return withoutDisplay;
     }
-    launcher::prepareToolkit();
     [[NSApplication sharedApplication] finishLaunching];
     return RUN_ALL_TESTS();
   }

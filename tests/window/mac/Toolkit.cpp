@@ -1,11 +1,11 @@
-#include "tests/window/mac/Screen.h"
+#include "tests/window/mac/Toolkit.h"
 
 #include <CoreGraphics/CoreGraphics.h>
 
 namespace launcher {
 
-/// Who has logged in from elsewhere has none.
-bool hasScreen() {
+/// AppKit is ready as it is. Someone logged in from elsewhere has no screen.
+bool prepareToolkit() {
   const CFDictionaryRef session = CGSessionCopyCurrentDictionary();
   if (session == nullptr) return false;
   CFRelease(session);

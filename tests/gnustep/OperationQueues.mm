@@ -1,0 +1,79 @@
+// Blocks on operation queues. GNUstep's library is built without blocks, its pool lets an operation
+// wait behind a busy one, and its main queue runs its operations on other threads.
+
+#import <AppKit/AppKit.h>
+
+#include <Block.h>
+
+#import "tests/gnustep/Methods.h"
+#import "tests/gnustep/StandIn.h"
+
+/// A block as an operation on a thread of its own.
+@interface BlockOperation : NSOperation {
+  void (^_block)();
+  BOOL _hasThread;
+}
++ (instancetype)withBlock:(void (^)())block;
+@end
+
+@implementation BlockOperation
+
++ (instancetype)withBlock:(void (^)())block {
+  BlockOperation* operation = [[[self alloc] init] autorelease];
+  operation->_block = Block_copy(block);
+  return operation;
+}
+
+- (void)dealloc {
+  Block_release(_block);
+  [super dealloc];
+}
+
+/// A queue starts a concurrent operation where it stands. The base class's `start` refuses one that
+/// still says so.
+- (BOOL)isConcurrent {
+  return !_hasThread;
+}
+
+- (void)start {
+  _hasThread = YES;
+  [NSThread detachNewThreadSelector:@selector(runOnThread) toTarget:self withObject:nil];
+}
+
+- (void)runOnThread {
+  [super start];
+}
+
+- (void)main {
+  _block();
+}
+
+@end
+
+@interface NSOperationQueue (BlocksExchange)
+@end
+
+@implementation NSOperationQueue (BlocksExchange)
+
+/// The modal mode is left out, since no item of the main queue runs while an alert is up.
+- (void)launcher_addOperationWithBlock:(void (^)())block {
+  @autoreleasepool {
+    BlockOperation* operation = [BlockOperation withBlock:block];
+    if (self != [NSOperationQueue mainQueue]) return [self addOperation:operation];
+    [operation performSelectorOnMainThread:@selector(main)
+                                withObject:nil
+                             waitUntilDone:NO
+                                     modes:@[ NSDefaultRunLoopMode, NSEventTrackingRunLoopMode ]];
+  }
+}
+
+@end
+
+namespace launcher {
+
+void installOperationQueues() {
+  exchangeMethods([NSOperationQueue class], @selector(addOperationWithBlock:),
+                  @selector(launcher_addOperationWithBlock:));
+}
+
+}  // namespace launcher

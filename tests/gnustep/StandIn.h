@@ -1,0 +1,12 @@
+#pragma once
+
+namespace launcher {
+
+// The parts of the stand-in, each in the file of its name. Once, before any window is made.
+void installLayers();
+void installLayoutReading();
+void installOperationQueues();
+void installUndo();
+void installViewLifecycle();
+
+}  // namespace launcher
