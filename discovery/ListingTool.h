@@ -18,12 +18,12 @@ class ListingTool {
 
   virtual ~ListingTool() = default;
 
-  /// Before the launch: has `handler` called on a thread of its own with each piece of output as it
+  /// Before the launch: has `handler` called on another thread with each piece of output as it
   /// comes. The empty handler removes it, at any time but from within it: once this returns no call
   /// is under way and none follows, even if a child of the tool still holds the output open.
   virtual void setOutputHandler(OutputHandler handler) = 0;
 
-  /// Before the launch: has `handler` called once on a thread of its own after the tool has ended.
+  /// Before the launch: has `handler` called once on another thread after the tool has ended.
   virtual void setExitHandler(ExitHandler handler) = 0;
 
   /// Starts the tool. False where that is impossible; then no handler is ever called.
@@ -35,6 +35,11 @@ class ListingTool {
 
 /// Makes one run of the tool, not yet started.
 using ListingToolMaker = std::function<std::shared_ptr<ListingTool>()>;
+
+/// One run of the program at `path`, which is asked for the attached disk images, not yet started.
+///
+///     makeListingToolAt("/usr/bin/hdiutil")->launch()
+std::shared_ptr<ListingTool> makeListingToolAt(const std::string& path);
 
 /// The platform's own tool; `bundle` must outlive the maker.
 ListingToolMaker makeListingToolMaker(const ApplicationBundle& bundle);

@@ -90,9 +90,9 @@ class OutputReader {
   std::thread thread_;
 };
 
-class AttachedImagesTool : public ListingTool {
+class SpawnedTool : public ListingTool {
  public:
-  explicit AttachedImagesTool(std::string path) : path_(std::move(path)) {}
+  explicit SpawnedTool(std::string path) : path_(std::move(path)) {}
 
   void setOutputHandler(OutputHandler handler) override {
     if (!handler) reader_.reset();
@@ -128,11 +128,14 @@ class AttachedImagesTool : public ListingTool {
 
 }  // namespace
 
+std::shared_ptr<ListingTool> makeListingToolAt(const std::string& path) {
+  return std::make_shared<SpawnedTool>(path);
+}
+
 ListingToolMaker makeListingToolMaker(const ApplicationBundle& bundle) {
   return [&bundle] {
     const std::optional<std::string> resources = bundle.resourcePath();
-    return std::make_shared<AttachedImagesTool>(resources ? *resources + "/bin/attached-images"
-                                                          : "");
+    return makeListingToolAt(resources ? *resources + "/bin/attached-images" : "");
   };
 }
 

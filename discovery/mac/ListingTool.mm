@@ -54,47 +54,57 @@ bool launched(NSTask* task) {
   }
 }
 
-class DiskImageTool : public ListingTool {
+class TaskTool : public ListingTool {
  public:
-  DiskImageTool() : task_([[NSTask alloc] init]), pipe_([[NSPipe pipe] retain]) {
-    [task_ setLaunchPath:@"/usr/bin/hdiutil"];
+  explicit TaskTool(NSString* path) : task_([[NSTask alloc] init]), pipe_([[NSPipe pipe] retain]) {
+    [task_ setLaunchPath:path];
     [task_ setArguments:@[ @"info", @"-plist" ]];
     [task_ setStandardOutput:pipe_];
     [task_ setStandardError:pipe_];
   }
-  ~DiskImageTool() override {
+  ~TaskTool() override {
+    removeReader();
     [pipe_ release];
     [task_ release];
   }
-  DiskImageTool(const DiskImageTool&) = delete;
-  DiskImageTool& operator=(const DiskImageTool&) = delete;
+  TaskTool(const TaskTool&) = delete;
+  TaskTool& operator=(const TaskTool&) = delete;
 
   void setOutputHandler(OutputHandler handler) override {
-    const bool removed = !handler;
-    output_->setHandler(std::move(handler));
-    NSFileHandle* reading = [pipe_ fileHandleForReading];
-    if (removed) {
-      [reading setReadabilityHandler:nil];
+    if (!handler) {
+      removeReader();
       return;
     }
+    output_->setHandler(std::move(handler));
     const auto output = output_;
-    [reading setReadabilityHandler:^(NSFileHandle* handle) {
+    [[pipe_ fileHandleForReading] setReadabilityHandler:^(NSFileHandle* handle) {
       readSome(handle, *output);
     }];
   }
 
+  /// The handler may let go of this run, and with it of the platform's copy of the handler, which
+  /// is still being called then.
   void setExitHandler(ExitHandler handler) override {
-    [task_ setTerminationHandler:^(NSTask* task) {
-      handler();
-      [task setTerminationHandler:nil];
+    [task_ setTerminationHandler:^(NSTask* /*task*/) {
+      const ExitHandler called = handler;
+      called();
     }];
   }
 
-  bool launch() override { return launched(task_); }
+  bool launch() override {
+    if (launched(task_)) return true;
+    removeReader();
+    return false;
+  }
 
   void waitUntilExit() override { [task_ waitUntilExit]; }
 
  private:
+  void removeReader() {
+    output_->setHandler({});
+    [[pipe_ fileHandleForReading] setReadabilityHandler:nil];
+  }
+
   NSTask* task_;
   NSPipe* pipe_;
   std::shared_ptr<Output> output_ = std::make_shared<Output>();
@@ -102,8 +112,14 @@ class DiskImageTool : public ListingTool {
 
 }  // namespace
 
+std::shared_ptr<ListingTool> makeListingToolAt(const std::string& path) {
+  @autoreleasepool {
+    return std::make_shared<TaskTool>(toNSString(path));
+  }
+}
+
 ListingToolMaker makeListingToolMaker(const ApplicationBundle& /*bundle*/) {
-  return [] { return std::make_shared<DiskImageTool>(); };
+  return [] { return std::make_shared<TaskTool>(@"/usr/bin/hdiutil"); };
 }
 
 }  // namespace launcher
