@@ -17,6 +17,7 @@ SUITES = {
     "bench": PythonSuite("tests/bench"),
     "scripts": PythonSuite("tests/scripts"),
     "unit": GoogleTestSuite("unit-tests"),
+    "diagnostics": GoogleTestSuite("diagnostics-tests"),
     "contract": GoogleTestSuite("contract-tests", apart=True),
     "sanitizers": sanitizers.LOGIC,
     "fuzz": fuzz,
@@ -32,7 +33,7 @@ SUITES = {
 ON_REQUEST = ["sanitizers-window", "starts"]
 
 # The others drive an X display, or look from Linux at what a Mac meets by itself.
-ON_MACOS = ["strings", "icon", "scripts", "unit", "contract", "window"]
+ON_MACOS = ["strings", "icon", "scripts", "unit", "diagnostics", "contract", "window"]
 
 if platform.system() == "Darwin":
     SUITES = {name: SUITES[name] for name in ON_MACOS}
