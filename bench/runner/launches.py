@@ -9,9 +9,9 @@ import time
 
 from figures import FLOOR, OURS, Figure, Unavailable, at_most_above
 from project import BUILD, ROOT
-from stage.attached_image import NotAllowed, attached
-from stage.download import ORIGIN
-from stage.waiting import wait_until
+from desktop.attached_image import NotAllowed, attached
+from desktop.download import ORIGIN
+from desktop.waiting import wait_until
 from windows import APPLICATION, PROGRAM, seconds, session
 
 STAGE = BUILD / "bench/stage"

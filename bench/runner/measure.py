@@ -17,7 +17,7 @@ import sizes
 import small
 import starts
 from figures import Unavailable, failed_row
-from stage.processes import adopt_orphans, end_descendants
+from desktop.processes import adopt_orphans, end_descendants
 
 CURVES = {}
 

@@ -9,8 +9,8 @@ import tempfile
 
 from figures import FLOOR, OURS, Figure, Unavailable, ahead_of, at_most
 from project import ROOT
-from stage.attached_image import NotAllowed, attached
-from stage.processes import end_descendants
+from desktop.attached_image import NotAllowed, attached
+from desktop.processes import end_descendants
 from windows import APPLICATION, BARE_WINDOW, PROGRAM, session
 
 PEERS = {

@@ -9,7 +9,7 @@ import subprocess
 
 from figures import Unavailable
 from project import BUILD
-from stage.launcher import LauncherWindow
+from desktop.launcher import LauncherWindow
 
 CLOCK = BUILD / "bench/stage/window-clock"
 BARE_WINDOW = BUILD / "bench/stage/bare-window"

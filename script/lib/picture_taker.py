@@ -12,11 +12,11 @@ import sys
 import tempfile
 
 from project import BUILD
-from stage.attached_image import attached
-from stage.download import ORIGIN
-from stage.launcher import PROGRAM, LauncherWindow
-from stage.waiting import wait_until
-from stage.window import Window, windows_of
+from desktop.attached_image import attached
+from desktop.download import ORIGIN
+from desktop.launcher import PROGRAM, LauncherWindow
+from desktop.waiting import wait_until
+from desktop.window import Window, windows_of
 
 APPLICATION = "VorxLauncher.app"
 VIEWER = "Resources/bin/vexlink"

@@ -8,13 +8,13 @@ import subprocess
 import sys
 import tempfile
 
-from stage.attached_image import NotAllowed, attached
-from stage.display import VirtualDisplay
-from stage.download import download, served
-from stage.failure import Failure
-from stage.launcher import LauncherWindow
-from stage.processes import adopt_orphans, end_descendants
-from stage.waiting import wait_until
+from desktop.attached_image import NotAllowed, attached
+from desktop.display import VirtualDisplay
+from desktop.download import download, served
+from desktop.failure import Failure
+from desktop.launcher import LauncherWindow
+from desktop.processes import adopt_orphans, end_descendants
+from desktop.waiting import wait_until
 
 BUILD = pathlib.Path(__file__).resolve().parents[2] / "build"
 MAC = sys.platform == "darwin"

@@ -10,13 +10,13 @@ import unittest
 
 import doubles
 import reading
-from stage.attached_image import NotAllowed, attached
-from stage.download import download, served
-from stage.failure import Failure
-from stage.launcher import LauncherWindow
-from stage.processes import adopt_orphans, descendants, end_descendants, none_left
-from stage.waiting import wait_until
-from stage.window import Window, windows_of
+from desktop.attached_image import NotAllowed, attached
+from desktop.download import download, served
+from desktop.failure import Failure
+from desktop.launcher import LauncherWindow
+from desktop.processes import adopt_orphans, descendants, end_descendants, none_left
+from desktop.waiting import wait_until
+from desktop.window import Window, windows_of
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = ROOT / "build"

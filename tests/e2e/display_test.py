@@ -5,7 +5,7 @@ import subprocess
 import unittest.mock
 
 from case import PROGRAM, READY, LauncherTest
-from stage.display import VirtualDisplay
+from desktop.display import VirtualDisplay
 
 
 class DisplayTest(LauncherTest):

@@ -6,7 +6,7 @@ import pathlib
 import shutil
 import subprocess
 
-from stage.waiting import wait_until
+from desktop.waiting import wait_until
 
 BUILT = pathlib.Path(__file__).resolve().parents[2] / "build/tests/e2e"
 DOUBLE = BUILT / "e2e-double"

@@ -3,7 +3,7 @@
 import subprocess
 
 from case import GREEN, NO_URL, READY, WHITE, LauncherTest
-from stage.waiting import wait_until
+from desktop.waiting import wait_until
 
 LOCATION = "https://server.example"
 LONG_LOCATION = LOCATION + "/a/folder" * 30

@@ -2,7 +2,7 @@
 
 import reading
 from case import LauncherTest
-from stage.waiting import wait_until
+from desktop.waiting import wait_until
 
 NO_URL = "Geben Sie eine gültige Vorx-Adresse ein, um die Starttaste zu aktivieren"
 READY = "Drücken Sie die Starttaste, um die Fernsteuerung zu starten"

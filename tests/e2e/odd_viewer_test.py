@@ -5,7 +5,7 @@ import signal
 
 import doubles
 from case import READY, RUNNING_READY, LauncherTest
-from stage.waiting import wait_until
+from desktop.waiting import wait_until
 
 
 class OddViewerTest(LauncherTest):

@@ -11,11 +11,11 @@ import unittest
 import doubles
 import reading
 from case import APPLICATION, BUILD, ROOT
-from stage.attached_image import NotAllowed, attached
-from stage.launcher import LauncherWindow
-from stage.picture import picture_in
-from stage.processes import adopt_orphans, end_descendants, none_left
-from stage.waiting import wait_until
+from desktop.attached_image import NotAllowed, attached
+from desktop.launcher import LauncherWindow
+from desktop.picture import picture_in
+from desktop.processes import adopt_orphans, end_descendants, none_left
+from desktop.waiting import wait_until
 
 MOUNT = "#!/bin/sh\necho 'mount: not permitted' >&2\nexit 32\n"
 UDISKSCTL_THAT_MAY_NOT = "#!/bin/sh\necho 'Error: not authorized' >&2\nexit 1\n"

@@ -7,10 +7,10 @@ import pathlib
 import subprocess
 
 from case import PROGRAM, ROOT, LauncherTest
-from stage.launcher import LauncherWindow
-from stage.processes import descendants, none_left
-from stage.waiting import wait_until
-from stage.window import Window, windows_of
+from desktop.launcher import LauncherWindow
+from desktop.processes import descendants, none_left
+from desktop.waiting import wait_until
+from desktop.window import Window, windows_of
 
 STARTS = 200
 

@@ -3,7 +3,7 @@
 import subprocess
 
 from case import LauncherTest
-from stage.waiting import wait_until
+from desktop.waiting import wait_until
 
 
 class WindowTest(LauncherTest):

@@ -82,7 +82,7 @@ def _main(folder, display, *command):
         return _run(command)
 
     sys.path.insert(0, str(ROOT / "script" / "lib"))
-    from stage.display import NoDisplay, VirtualDisplay
+    from desktop.display import NoDisplay, VirtualDisplay
     try:
         own = VirtualDisplay()
     except NoDisplay as reason:

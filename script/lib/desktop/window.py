@@ -3,8 +3,8 @@
 import re
 import subprocess
 
-from stage.picture import picture_of
-from stage.waiting import wait_until
+from desktop.picture import picture_of
+from desktop.waiting import wait_until
 
 
 def _output(*command):

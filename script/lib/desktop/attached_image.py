@@ -8,8 +8,8 @@ import subprocess
 import sys
 import tempfile
 
-from stage.failure import Failure
-from stage.waiting import wait_until
+from desktop.failure import Failure
+from desktop.waiting import wait_until
 
 
 class NotAllowed(Failure):

@@ -5,8 +5,8 @@ import os
 import pathlib
 import signal
 
-from stage.failure import Failure
-from stage.waiting import wait_until
+from desktop.failure import Failure
+from desktop.waiting import wait_until
 
 _SET_CHILD_SUBREAPER = 36
 

@@ -3,8 +3,8 @@
 import os
 import subprocess
 
-from stage.failure import Failure
-from stage.waiting import wait_until
+from desktop.failure import Failure
+from desktop.waiting import wait_until
 
 
 class NoDisplay(Failure):

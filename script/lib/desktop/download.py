@@ -10,7 +10,7 @@ import subprocess
 import sys
 import threading
 
-from stage.failure import Failure
+from desktop.failure import Failure
 
 ORIGIN = "user.xdg.origin.url"
 MAC_ORIGIN = "com.apple.metadata:kMDItemWhereFroms"

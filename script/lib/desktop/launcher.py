@@ -3,7 +3,7 @@
 import pathlib
 import xml.etree.ElementTree as ElementTree
 
-from stage.window import Window
+from desktop.window import Window
 
 PROGRAM = "VorxLauncher"
 _LAYOUT = pathlib.Path(__file__).resolve().parents[3] / "resources/Base.lproj/ViewController.xib"

@@ -2,7 +2,7 @@
 
 import time
 
-from stage.failure import Failure
+from desktop.failure import Failure
 
 LIMIT_SECONDS = 60
 
