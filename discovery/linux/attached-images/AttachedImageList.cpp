@@ -8,17 +8,16 @@ namespace {
 
 std::string pathOf(const BlockDevice& device) { return "/dev/" + device.name; }
 
-/// Where each device is mounted, by its path.
+/// Where each device is mounted as a whole, by its path.
 class MountPoints {
  public:
   MountPoints(const std::vector<LoopDevice>& loops, const std::vector<Mount>& mounts) {
     for (const LoopDevice& loop : loops) {
       for (const BlockDevice& device : loop.devices) paths_.emplace(device.number, pathOf(device));
     }
-    for (const Mount& mount : mounts) {
-      const auto known = paths_.find(mount.number);
-      const std::string& path = known == paths_.end() ? mount.source : known->second;
-      mountPoints_[path].push_back(mount.mountPoint);
+    for (const Mount& mount : reachableMounts(mounts)) {
+      const auto device = deviceOf(mount);
+      if (device && mount.root == "/") mountPoints_[*device].push_back(mount.mountPoint);
     }
   }
 
@@ -28,6 +27,13 @@ class MountPoints {
   }
 
  private:
+  /// A source is any name that was given at mounting, but btrfs, which has numbers of its own,
+  /// shows the device's path there.
+  std::optional<std::string> deviceOf(const Mount& mount) const {
+    if (const auto known = paths_.find(mount.number); known != paths_.end()) return known->second;
+    return mount.type == "btrfs" ? std::optional(mount.source) : std::nullopt;
+  }
+
   std::unordered_map<std::string, std::string> paths_;  ///< of devices, by number
   std::unordered_map<std::string, std::vector<std::string>> mountPoints_;
 };

@@ -25,8 +25,8 @@ struct AttachedImage {
 };
 
 /// Brings images and mounts together: an entity for each place where a device is mounted, in the
-/// mount table's order, or one for a device that is not. A mount belongs to the device of its
-/// number, else to that of its source: file systems such as btrfs have numbers of their own.
+/// mount table's order, or one for a device that is not. Only what a path leads to counts, and only
+/// a whole file system: neither a mount that another one covers nor a folder bound elsewhere.
 std::vector<AttachedImage> attachedImages(const std::vector<LoopDevice>& loops,
                                           const std::vector<Mount>& mounts);
 

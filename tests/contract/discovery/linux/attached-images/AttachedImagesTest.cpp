@@ -178,6 +178,25 @@ TEST_F(AttachedImagesLinuxTest, ListsAnImageWhereverItIsMounted) {
   EXPECT_NE(table.output.find(image() + "\n"), std::string::npos) << table.output;
 }
 
+TEST_F(AttachedImagesLinuxTest, ListsOnlyWhereTheWholeVolumeIsSeen) {
+  if (!shell("mkdir content/folder") || !makeSquashImage()) GTEST_SKIP() << "no image was made";
+  const AttachedLoop loop(image());
+  if (!loop.error().empty()) GTEST_SKIP() << "cannot attach: " << loop.error();
+  const std::string place = folder_.file("mounted");
+  const MountedFolder mounted(loop.device(), "squashfs", place);
+  if (!mounted.error().empty()) GTEST_SKIP() << "cannot mount: " << mounted.error();
+
+  const MountedFolder named(loop.device(), "tmpfs", folder_.file("named"));
+  ASSERT_EQ(named.error(), "");
+  EXPECT_EQ(entities(image()), loop.device() + "=" + place + "\n") << "a name is no device";
+  const MountedFolder bound(place + "/folder", "", folder_.file("bound"), MS_BIND);
+  ASSERT_EQ(bound.error(), "");
+  EXPECT_EQ(entities(image()), loop.device() + "=" + place + "\n") << "a folder is no volume";
+  const MountedFolder cover("none", "tmpfs", place);
+  ASSERT_EQ(cover.error(), "");
+  EXPECT_EQ(entities(image()), loop.device() + "\n") << "covered";
+}
+
 TEST_F(AttachedImagesLinuxTest, ListsPartitions) {
   if (!shell("truncate -s 4M image.dmg && truncate -s 1M volume && "
              "mkfs.ext4 -q -O ^has_journal volume && "

@@ -81,8 +81,9 @@ class AttachedLoop {
 /// A device mounted at a folder, which is made for it; unmounted in the end.
 class MountedFolder {
  public:
-  MountedFolder(const std::string& device, const std::string& type, const std::string& folder)
-      : folder_(folder), mounted_(mountAt(device, type, folder)) {
+  MountedFolder(const std::string& device, const std::string& type, const std::string& folder,
+                unsigned long flags = MS_RDONLY)
+      : folder_(folder), mounted_(mountAt(device, type, folder, flags)) {
     if (!mounted_) error_ = std::strerror(errno);
   }
   MountedFolder(const MountedFolder&) = delete;
@@ -95,10 +96,10 @@ class MountedFolder {
   const std::string& error() const { return error_; }
 
  private:
-  static bool mountAt(const std::string& device, const std::string& type,
-                      const std::string& folder) {
+  static bool mountAt(const std::string& device, const std::string& type, const std::string& folder,
+                      unsigned long flags) {
     std::filesystem::create_directories(folder);
-    return mount(device.c_str(), folder.c_str(), type.c_str(), MS_RDONLY, nullptr) == 0;
+    return mount(device.c_str(), folder.c_str(), type.c_str(), flags, nullptr) == 0;
   }
 
   std::string folder_;

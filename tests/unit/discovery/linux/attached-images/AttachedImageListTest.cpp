@@ -26,6 +26,13 @@ struct Case {
   std::string expected;
 };
 
+/// A whole file system, mounted at a place that nothing covers.
+Mount mountOf(const std::string& number, const std::string& source, const std::string& place,
+              const std::string& type = "squashfs") {
+  static int lastId = 1;
+  return {++lastId, 1, number, "/", place, type, source};
+}
+
 const LoopDevice kPlain = {"/a.dmg", {{"loop0", "7:0"}}};
 const LoopDevice kPartitioned = {"/b.dmg",
                                  {{"loop1", "7:1"}, {"loop1p1", "259:0"}, {"loop1p2", "259:1"}}};
@@ -33,16 +40,16 @@ const LoopDevice kPartitioned = {"/b.dmg",
 TEST(AttachedImageListTest, BringsImagesAndMountsTogether) {
   const Case cases[] = {
       {{}, {}, ""},
-      {{}, {{"7:0", "/dev/loop0", "/mnt"}}, ""},
+      {{}, {mountOf("7:0", "/dev/loop0", "/mnt")}, ""},
       {{kPlain}, {}, "/a.dmg: /dev/loop0=-\n"},
-      {{kPlain}, {{"7:0", "/dev/loop0", "/mnt"}}, "/a.dmg: /dev/loop0=/mnt\n"},
-      {{kPlain}, {{"7:1", "/dev/loop1", "/mnt"}}, "/a.dmg: /dev/loop0=-\n"},
-      {{kPlain}, {{"7:00", "/dev/loop00", "/mnt"}}, "/a.dmg: /dev/loop0=-\n"},
+      {{kPlain}, {mountOf("7:0", "/dev/loop0", "/mnt")}, "/a.dmg: /dev/loop0=/mnt\n"},
+      {{kPlain}, {mountOf("7:1", "/dev/loop1", "/mnt")}, "/a.dmg: /dev/loop0=-\n"},
+      {{kPlain}, {mountOf("7:00", "/dev/loop00", "/mnt")}, "/a.dmg: /dev/loop0=-\n"},
       {{kPartitioned},
-       {{"259:1", "/dev/loop1p2", "/mnt"}},
+       {mountOf("259:1", "/dev/loop1p2", "/mnt")},
        "/b.dmg: /dev/loop1=- /dev/loop1p1=- /dev/loop1p2=/mnt\n"},
       {{kPlain, kPartitioned},
-       {{"259:0", "/dev/loop1p1", "/b"}, {"7:0", "/dev/loop0", "/a"}},
+       {mountOf("259:0", "/dev/loop1p1", "/b"), mountOf("7:0", "/dev/loop0", "/a")},
        "/a.dmg: /dev/loop0=/a\n/b.dmg: /dev/loop1=- /dev/loop1p1=/b /dev/loop1p2=-\n"},
   };
   for (const auto& [loops, mounts, expected] : cases) {
@@ -51,26 +58,49 @@ TEST(AttachedImageListTest, BringsImagesAndMountsTogether) {
 }
 
 TEST(AttachedImageListTest, ADeviceMountedTwiceIsListedTwice) {
-  EXPECT_EQ(described(attachedImages({kPlain}, {{"7:0", "/dev/loop0", "/z"},
-                                                {"8:1", "/dev/sda1", "/"},
-                                                {"7:0", "/dev/loop0", "/a"}})),
+  EXPECT_EQ(described(attachedImages(
+                {kPlain}, {mountOf("7:0", "/dev/loop0", "/z"), mountOf("8:1", "/dev/sda1", "/home"),
+                           mountOf("7:0", "/dev/loop0", "/a")})),
             "/a.dmg: /dev/loop0=/z /dev/loop0=/a\n");
 }
 
 TEST(AttachedImageListTest, TheNumberCountsBeforeTheSource) {
-  EXPECT_EQ(described(attachedImages({kPlain, kPartitioned},
-                                     {{"7:0", "/dev/loop1", "/a"}, {"7:1", "/dev/renamed", "/b"}})),
-            "/a.dmg: /dev/loop0=/a\n/b.dmg: /dev/loop1=/b /dev/loop1p1=- /dev/loop1p2=-\n");
+  EXPECT_EQ(
+      described(attachedImages({kPlain, kPartitioned}, {mountOf("7:0", "/dev/loop1", "/a"),
+                                                        mountOf("7:1", "/dev/renamed", "/b")})),
+      "/a.dmg: /dev/loop0=/a\n/b.dmg: /dev/loop1=/b /dev/loop1p1=- /dev/loop1p2=-\n");
 }
 
-TEST(AttachedImageListTest, FileSystemsWithNumbersOfTheirOwnAreFoundBySource) {
-  EXPECT_EQ(described(attachedImages({kPlain}, {{"0:45", "/dev/loop0", "/btrfs"}})),
-            "/a.dmg: /dev/loop0=/btrfs\n");
+TEST(AttachedImageListTest, BtrfsHasNumbersOfItsOwnAndIsFoundBySource) {
+  const Mount btrfs = mountOf("0:45", "/dev/loop0", "/btrfs", "btrfs");
+  EXPECT_EQ(described(attachedImages({kPlain}, {btrfs})), "/a.dmg: /dev/loop0=/btrfs\n");
+}
+
+TEST(AttachedImageListTest, WhatIsOnlyNamedAfterTheDeviceIsNoMountOfIt) {
+  for (const char* type : {"tmpfs", "overlay", "squashfs"}) {
+    const Mount mount = mountOf("0:45", "/dev/loop0", "/mnt", type);
+    EXPECT_EQ(described(attachedImages({kPlain}, {mount})), "/a.dmg: /dev/loop0=-\n") << type;
+  }
+}
+
+TEST(AttachedImageListTest, AFolderBoundElsewhereIsNotTheVolume) {
+  Mount bound = mountOf("7:0", "/dev/loop0", "/bound");
+  bound.root = "/folder";
+  const Mount whole = mountOf("7:0", "/dev/loop0", "/whole");
+  EXPECT_EQ(described(attachedImages({kPlain}, {bound})), "/a.dmg: /dev/loop0=-\n");
+  EXPECT_EQ(described(attachedImages({kPlain}, {bound, whole})), "/a.dmg: /dev/loop0=/whole\n");
+}
+
+TEST(AttachedImageListTest, AMountThatAnotherCoversIsNone) {
+  const Mount below = mountOf("7:0", "/dev/loop0", "/mnt");
+  Mount above = mountOf("0:50", "tmpfs", "/mnt", "tmpfs");
+  above.parent = below.id;
+  EXPECT_EQ(described(attachedImages({kPlain}, {below, above})), "/a.dmg: /dev/loop0=-\n");
 }
 
 TEST(AttachedImageListTest, OneImageMayBeAttachedTwice) {
   EXPECT_EQ(described(attachedImages({kPlain, {"/a.dmg", {{"loop5", "7:5"}}}},
-                                     {{"7:5", "/dev/loop5", "/mnt"}})),
+                                     {mountOf("7:5", "/dev/loop5", "/mnt")})),
             "/a.dmg: /dev/loop0=-\n/a.dmg: /dev/loop5=/mnt\n");
 }
 
@@ -81,7 +111,7 @@ TEST(AttachedImageListTest, ManyImagesAreNoMatter) {
   for (int i = 0; i < kMany; ++i) {
     const std::string number = std::to_string(i);
     loops.push_back({"/" + number, {{"loop" + number, "7:" + number}}});
-    mounts.push_back({"7:" + number, "/dev/loop" + number, "/mnt/" + number});
+    mounts.push_back(mountOf("7:" + number, "/dev/loop" + number, "/mnt/" + number));
   }
   const std::vector<AttachedImage> images = attachedImages(loops, mounts);
   ASSERT_EQ(images.size(), std::size_t{kMany});
