@@ -41,7 +41,8 @@ class ProcessTable {
   /// filled, and leaves the rest untouched. A buffer that has become too small is filled as far as
   /// it goes, and the call fails with `ENOMEM`.
   ///
-  /// Returns as `probeSize` does.
+  /// Returns as `probeSize` does. What `length` is after a failure differs between systems: some
+  /// say how much was filled, others 0. The records that were filled count all the same.
   virtual int fetch(std::byte* buffer, std::size_t& length) const = 0;
 
   /// Reads one record of `recordSize()` bytes. A zeroed record has the empty name.

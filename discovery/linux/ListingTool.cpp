@@ -1,6 +1,5 @@
 #include "discovery/ListingTool.h"
 
-#include <fcntl.h>
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
@@ -9,47 +8,14 @@
 #include <cerrno>
 #include <exception>
 #include <optional>
-#include <system_error>
 #include <thread>
 #include <utility>
 
+#include "base/linux/Descriptor.h"
 #include "base/linux/Spawn.h"
 
 namespace launcher {
 namespace {
-
-/// A descriptor that closes itself; not inherited by programs.
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {
-    if (number == -1) throw std::system_error(errno, std::generic_category());
-  }
-  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  Descriptor& operator=(Descriptor&&) = delete;
-  ~Descriptor() {
-    if (number_ != -1) close(number_);
-  }
-
-  int number() const { return number_; }
-
- private:
-  int number_;
-};
-
-struct Pipe {
-  Descriptor readEnd;
-  Descriptor writeEnd;
-
-  static Pipe make() {
-    std::array<int, 2> ends{-1, -1};
-    if (pipe2(ends.data(), O_CLOEXEC) == -1) {
-      throw std::system_error(errno, std::generic_category());
-    }
-    return {Descriptor(ends[0]), Descriptor(ends[1])};
-  }
-};
 
 /// A thread that hands on what comes out of a pipe, until its end or until it is told to stop: the
 /// pipe ends only when every program that inherited it has, the tool's own children among them.
@@ -85,7 +51,7 @@ class OutputReader {
   }
 
   Descriptor pipe_;
-  Descriptor stop_{eventfd(0, EFD_CLOEXEC)};
+  Descriptor stop_ = opened(eventfd(0, EFD_CLOEXEC));
   ListingTool::OutputHandler handler_;
   std::thread thread_;
 };
@@ -102,7 +68,7 @@ class SpawnedTool : public ListingTool {
   void setExitHandler(ExitHandler handler) override { exitHandler_ = std::move(handler); }
 
   bool launch() override try {
-    Pipe pipe = Pipe::make();
+    PipeEnds pipe = PipeEnds::make();
     if (outputHandler_) {
       reader_ = std::make_unique<OutputReader>(std::move(pipe.readEnd), std::move(outputHandler_));
     }

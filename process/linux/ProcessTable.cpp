@@ -14,6 +14,7 @@ extern "C" {  // which the header does without before glibc 2.37
 #include <sys/pidfd.h>
 }
 
+#include "base/linux/Descriptor.h"
 #include "process/ProcessTable.h"
 
 namespace launcher {
@@ -24,29 +25,16 @@ static_assert(std::is_trivially_copyable_v<ProcessRecord>);
 
 constexpr const char* procFolder = "/proc";
 
-/// A descriptor that closes itself.
-class Descriptor {
- public:
-  explicit Descriptor(int number) : number_(number) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() {
-    if (isOpen()) close(number_);
-  }
-
-  int number() const { return number_; }
-  bool isOpen() const { return number_ != -1; }
-
- private:
-  int number_;
-};
-
 std::optional<ProcessId> parseProcessId(std::string_view name) {
   ProcessId pid = 0;
   const auto [rest, error] = std::from_chars(name.begin(), name.end(), pid);
   const bool isWhole = error == std::errc() && rest == name.end();
   return isWhole ? std::optional(pid) : std::nullopt;
 }
+
+/// Whether an error is the machine's own: nothing is known of the process then. Any other means
+/// that the process has gone since it was listed, or is hidden from this user.
+bool isWantOfResources(int error) { return error == EMFILE || error == ENFILE || error == ENOMEM; }
 
 /// The processes listed in /proc, one after the other.
 class ProcessListing {
@@ -71,7 +59,7 @@ class ProcessListing {
     return std::nullopt;
   }
 
-  /// Absent for a process that has gone since it was listed.
+  /// Absent where the record cannot be read; `errno` says why.
   std::optional<ProcessRecord> record(ProcessId pid) const {
     const std::string path = std::to_string(pid) + "/comm";  // short enough to need no allocation
     const Descriptor file(openat(dirfd(stream_), path.c_str(), O_RDONLY | O_CLOEXEC));
@@ -116,6 +104,8 @@ class ProcTable : public ProcessTable {
       if (const auto record = listing.record(*pid)) {
         std::memcpy(buffer + length, &*record, sizeof *record);
         length += sizeof *record;
+      } else if (isWantOfResources(errno)) {
+        return -1;
       }
     }
     return errno == 0 ? 0 : -1;

@@ -324,6 +324,13 @@ TEST_F(UnusableProgramTest, GivesNullAndTellsNoExit) {
   EXPECT_TRUE(hasNoChildren());
 }
 
+TEST(SpawnTest, LooksForNoProgramAlongPath) {
+  const std::string path = std::getenv("PATH");
+  setenv("PATH", TEST_CHILDREN, 1);
+  EXPECT_EQ(spawn({.path = "test-child", .arguments = {"exit"}}), nullptr);
+  setenv("PATH", path.c_str(), 1);
+}
+
 TEST(SpawnTest, TooLongArgumentsGiveNull) {
   EXPECT_EQ(spawn({.path = testChild, .arguments = {std::string(64 << 20, 'x')}}), nullptr);
 }

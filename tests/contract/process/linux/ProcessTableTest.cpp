@@ -117,6 +117,17 @@ TEST_F(ProcTableDeathTest, WithoutDescriptorsTheTableCannotBeFetched) {
   EXPECT_EXIT(run(), testing::ExitedWithCode(0), "");
 }
 
+TEST_F(ProcTableDeathTest, WithOneDescriptorForTheListAloneTheTableCannotBeFetched) {
+  const auto run = [] {
+    const int next = dup(STDERR_FILENO);
+    close(next);
+    const rlimit one{static_cast<rlim_t>(next) + 1, static_cast<rlim_t>(next) + 1};
+    setrlimit(RLIMIT_NOFILE, &one);
+    finish(fetchFails(EMFILE) && search(own()) == noProcess);
+  };
+  EXPECT_EXIT(run(), testing::ExitedWithCode(0), "");
+}
+
 TEST_F(ProcTableDeathTest, WithoutProcTheTableCannotBeRead) {
   if (geteuid() != 0) GTEST_SKIP() << "needs root, to hide /proc";
   const auto run = [] {
