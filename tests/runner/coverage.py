@@ -33,7 +33,7 @@ def _measured():
     profiles.mkdir()
     _run_tests(profiles)
     merged = build_folder(PRESET) / "measured.profdata"
-    subprocess.run(["llvm-profdata-14", "merge", "-o", str(merged),
+    subprocess.run(["llvm-profdata", "merge", "-o", str(merged),
                     *map(str, profiles.glob("*.profraw"))], check=True)
     return merged
 
@@ -42,7 +42,7 @@ def main(*files):
     build(*PROGRAMS, preset=PRESET)
     verb = ["show", "--show-branches=count"] if files else ["report", "--show-region-summary=0"]
     logic = [str(path) for room in LOGIC for path in sources(f"{room}/*.cpp", f"{room}/linux/**/*.cpp")]
-    subprocess.run(["llvm-cov-14", *verb, f"--instr-profile={_measured()}", _program(PROGRAMS[0]),
+    subprocess.run(["llvm-cov", *verb, f"--instr-profile={_measured()}", _program(PROGRAMS[0]),
                     f"--object={_program(PROGRAMS[1])}",
                     *([str(ROOT / file) for file in files] or logic)], check=True)
     return 0
