@@ -17,7 +17,9 @@ class HostResolver {
   virtual ~HostResolver() = default;
 
   /// The host's addresses in the resolver's order, or absent where it knows none. The name is
-  /// passed on as it stands. Blocks for as long as the resolver takes; any thread but the main one.
+  /// passed on as it stands; an empty one and one with a NUL name no host. Addresses of a family
+  /// that this machine has no address of itself do not count, unless the name is such an address.
+  /// Blocks for as long as the resolver takes; any thread but the main one.
   virtual std::optional<std::vector<SocketAddress>> addresses(const std::string& host) const = 0;
 };
 

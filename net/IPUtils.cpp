@@ -1,20 +1,36 @@
 #include "net/IPUtils.h"
 
 #include <netdb.h>
+#include <netinet/in.h>
 #include <sys/socket.h>
 
 #include <array>
 #include <cstddef>
+#include <cstring>
+#include <limits>
 
+#include "base/FatalError.h"
 #include "base/Unicode.h"
-#include "net/SocketLength.h"
 
 namespace launcher {
 namespace {
 
 constexpr std::size_t kNameBufferSize = 1025;
 
+/// Whether an address is as long as its family wants: not every system looks at the length before
+/// it reads the address.
+bool isComplete(const SocketAddress& address) {
+  sockaddr start{};
+  constexpr std::size_t kFamilyEnd = offsetof(sockaddr, sa_family) + sizeof(start.sa_family);
+  if (address.size() < kFamilyEnd) return false;
+  std::memcpy(&start, address.data(), kFamilyEnd);
+  if (start.sa_family == AF_INET) return address.size() >= sizeof(sockaddr_in);
+  if (start.sa_family == AF_INET6) return address.size() >= sizeof(sockaddr_in6);
+  return true;
+}
+
 std::optional<std::string> numericText(const SocketAddress& address) {
+  if (!isComplete(address)) return std::nullopt;
   std::array<char, kNameBufferSize> name{};
   const int failure =
       getnameinfo(reinterpret_cast<const sockaddr*>(address.data()), socketLength(address.size()),
@@ -29,6 +45,13 @@ std::optional<std::string> IPUtils::getIP(const std::string& domain, const HostR
   const auto addresses = resolver.addresses(domain);
   if (!addresses || addresses->empty()) return std::nullopt;
   return numericText(addresses->front());
+}
+
+socklen_t socketLength(std::size_t bytes) {
+  if (bytes > std::numeric_limits<socklen_t>::max()) {
+    fatalError("address too long", "IPUtils", __LINE__);
+  }
+  return static_cast<socklen_t>(bytes);
 }
 
 }  // namespace launcher

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <sys/socket.h>
+
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -16,5 +19,8 @@ class IPUtils {
   ///     getIP("nohost.invalid")    -> absent
   static std::optional<std::string> getIP(const std::string& domain, const HostResolver& resolver);
 };
+
+/// A byte count as the socket calls take it. Ends the program where it does not fit 32 bits.
+socklen_t socketLength(std::size_t bytes);
 
 }  // namespace launcher

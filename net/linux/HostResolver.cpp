@@ -24,20 +24,30 @@ bool canNameAHost(const std::string& host) {
   return !host.empty() && host.find('\0') == std::string::npos;
 }
 
+using AddressList = std::unique_ptr<addrinfo, FreeList>;
+
+/// Null where the platform finds nothing.
+AddressList lookUp(const std::string& host, int flags) {
+  addrinfo wanted{};
+  wanted.ai_flags = flags;
+  wanted.ai_family = AF_UNSPEC;
+  wanted.ai_socktype = SOCK_STREAM;  // else each address comes once per socket type
+  addrinfo* list = nullptr;
+  return AddressList(getaddrinfo(host.c_str(), nullptr, &wanted, &list) == 0 ? list : nullptr);
+}
+
 class SystemResolver : public HostResolver {
  public:
   std::optional<std::vector<SocketAddress>> addresses(const std::string& host) const override {
     if (!canNameAHost(host)) return std::nullopt;
 
-    addrinfo wanted{};
-    wanted.ai_family = AF_UNSPEC;
-    wanted.ai_socktype = SOCK_STREAM;  // else each address comes once per socket type
-    addrinfo* first = nullptr;
-    if (getaddrinfo(host.c_str(), nullptr, &wanted, &first) != 0) return std::nullopt;
+    // What this machine's own addresses allow is no question for a numeric address.
+    AddressList list = lookUp(host, AI_NUMERICHOST);
+    if (!list) list = lookUp(host, AI_ADDRCONFIG);
+    if (!list) return std::nullopt;
 
-    const std::unique_ptr<addrinfo, FreeList> list(first);
     std::vector<SocketAddress> found;
-    for (const addrinfo* entry = first; entry != nullptr; entry = entry->ai_next) {
+    for (const addrinfo* entry = list.get(); entry != nullptr; entry = entry->ai_next) {
       found.push_back(bytesOf(*entry));
     }
     return found;

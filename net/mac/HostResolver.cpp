@@ -16,8 +16,9 @@ struct Release {
 template <class Reference>
 using Owned = std::unique_ptr<std::remove_pointer_t<Reference>, Release>;
 
-Owned<CFStringRef> platformText(const std::string& text) {
-  if (text.empty()) return nullptr;
+/// Null for what names no host: the platform would read a name up to its first NUL.
+Owned<CFStringRef> hostName(const std::string& text) {
+  if (text.empty() || text.find('\0') != std::string::npos) return nullptr;
   const std::vector<UInt8> bytes(text.begin(), text.end());
   return Owned<CFStringRef>(CFStringCreateWithBytes(kCFAllocatorDefault, bytes.data(),
                                                     static_cast<CFIndex>(bytes.size()),
@@ -36,7 +37,7 @@ SocketAddress addressIn(CFTypeRef element) {
 class CoreHostResolver : public HostResolver {
  public:
   std::optional<std::vector<SocketAddress>> addresses(const std::string& name) const override {
-    const auto text = platformText(name);
+    const auto text = hostName(name);
     if (!text) return std::nullopt;
     const Owned<CFHostRef> host(CFHostCreateWithName(kCFAllocatorDefault, text.get()));
     if (!host) return std::nullopt;

@@ -15,8 +15,21 @@ std::optional<std::string> firstOf(std::vector<SocketAddress> addresses) {
 
 TEST(IPUtilsTest, AsksTheResolverOnceForTheNameAsItStands) {
   const FakeHostResolver resolver(std::vector<SocketAddress>{ipv4("10.0.0.5")});
-  IPUtils::getIP(" Server.Example ", resolver);
-  EXPECT_EQ(resolver.asked, std::vector<std::string>{" Server.Example "});
+  for (const std::string name : {" Server.Example ", "a%41b%", "\u00e9.example", ""}) {
+    resolver.asked.clear();
+    IPUtils::getIP(name, resolver);
+    EXPECT_EQ(resolver.asked, std::vector<std::string>{name});
+  }
+}
+
+TEST(IPUtilsTest, AsksOnceAlsoWhereThereIsNoAnswer) {
+  const FakeHostResolver unknown;
+  const FakeHostResolver empty(std::vector<SocketAddress>{});
+  const FakeHostResolver unreadable(std::vector<SocketAddress>{SocketAddress(1)});
+  for (const FakeHostResolver* resolver : {&unknown, &empty, &unreadable}) {
+    EXPECT_EQ(IPUtils::getIP("host", *resolver), std::nullopt);
+    EXPECT_EQ(resolver->asked, std::vector<std::string>{"host"});
+  }
 }
 
 TEST(IPUtilsTest, CachesNothing) {
@@ -54,6 +67,11 @@ TEST(IPUtilsTest, KeepsTheScopeThatThePlatformAdds) {
   EXPECT_TRUE(text->starts_with("fe80::1%")) << *text;
 }
 
+TEST(IPUtilsTest, HasRoomForTheLongestAddress) {
+  EXPECT_EQ(firstOf({ipv6("fe80:0:3333:4444:5555:6666:7777:8888", 0xFFFFFFFF)}),
+            "fe80:0:3333:4444:5555:6666:7777:8888%4294967295");
+}
+
 TEST(IPUtilsTest, AFirstElementThatIsNoAddressGivesNoneThoughOthersFollow) {
   SocketAddress unknownFamily = ipv4("10.0.0.5");
   unknownFamily[0] = std::byte{0xEE};
@@ -63,6 +81,18 @@ TEST(IPUtilsTest, AFirstElementThatIsNoAddressGivesNoneThoughOthersFollow) {
   EXPECT_EQ(firstOf({SocketAddress{}, good}), std::nullopt);
   EXPECT_EQ(firstOf({SocketAddress(1), good}), std::nullopt);
   EXPECT_EQ(firstOf({SocketAddress(good.begin(), good.begin() + 7), good}), std::nullopt);
+  const SocketAddress six = ipv6("2001:db8::1");
+  EXPECT_EQ(firstOf({SocketAddress(six.begin(), six.end() - 1), good}), std::nullopt);
+}
+
+TEST(IPUtilsTest, ALengthOfASocketCallHas32Bits) {
+  EXPECT_EQ(socketLength(0), 0U);
+  EXPECT_EQ(socketLength(28), 28U);
+  EXPECT_EQ(socketLength(0xFFFFFFFF), 0xFFFFFFFF);
+}
+
+TEST(IPUtilsDeathTest, ALongerAddressEndsTheProgram) {
+  EXPECT_DEATH(socketLength(std::size_t{1} << 32U), "fatal error: .*IPUtils");
 }
 
 }  // namespace
