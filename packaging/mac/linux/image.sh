@@ -16,7 +16,7 @@ notarise_image() { :; }
 leave_image() { :; }
 
 create_image() {
-  xorriso -as mkisofs -quiet -hfsplus -V "$volume" -o "$image" "$work/volume" \
+  xorriso -as mkisofs -quiet -hfsplus -V "$volume" -o "$made" "$work/volume" \
     >"$work/xorriso.log" 2>&1 || fail "could not make $image: $(tail -n 1 "$work/xorriso.log")"
 }
 
@@ -29,7 +29,7 @@ sys.stdout.write(unicodedata.normalize("NFD", sys.stdin.read()))' | sort
 
 # The same of the image, whose paths begin with the volume's name.
 image_entries() {
-  7zz l -slt -tHFS "$image" | awk '
+  7zz l -slt -tHFS "$made" | awk '
     /^Path = / { path = substr($0, 8) }
     /^Mode = / { if (sub("^[^/]*/", "", path)) print substr($0, 8), path }' | sort
 }

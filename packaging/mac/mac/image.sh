@@ -3,6 +3,11 @@
 
 attached=''
 
+# Signatures refuse what a browser or the Finder has noted on a file.
+strip_attributes() {
+  xattr -cr "$staged" || fail "could not strip the extended attributes of $staged"
+}
+
 # A signature of somebody carries a time stamp and is fit for notarisation.
 sign() {
   local stamp=--timestamp
@@ -22,32 +27,58 @@ sign_code() {
 
 # From the inside out: the application's signature covers the viewer.
 sign_bundle() {
+  strip_attributes
   sign_code "$staged/Contents/Resources/bin/vexlink" "$viewer_entitlements"
   sign_code "$staged" "$entitlements"
 }
 
+# The system's own indexer may hold a new volume for a moment.
+disk_image() {
+  local attempt
+  for attempt in 1 2 3 4 5; do
+    [ $attempt = 1 ] || sleep 2
+    hdiutil "$@" >"$work/hdiutil.log" 2>&1 && return
+    grep -q 'Resource busy' "$work/hdiutil.log" || break
+  done
+  cat "$work/hdiutil.log" >&2
+  return 1
+}
+
 create_image() {
-  hdiutil create -quiet -volname "$volume" -srcfolder "$work/volume" -fs HFS+ -format UDZO "$image" ||
+  disk_image create -ov -volname "$volume" -srcfolder "$work/volume" -fs HFS+ -format UDZO "$made" ||
     fail "could not make $image"
 }
 
 # The system runs an application out of an unsigned image at a random place, where it cannot tell
 # which image it came from.
 sign_image() {
-  [ "$identity" = - ] || sign "$image"
+  [ "$identity" = - ] || sign "$made"
 }
 
+notary() { xcrun notarytool "$@" --keychain-profile "$notary_profile"; }
+
+# The value of a key in the notary's last answer.
+answered() { sed -n "s/.*\"$1\" *: *\"\([^\"]*\)\".*/\1/p" "$work/notary.json"; }
+
+# A refusal is an answer, which the exit status does not tell from other ends.
 notarise_image() {
   [ -n "$notary_profile" ] || return 0
-  xcrun notarytool submit "$image" --keychain-profile "$notary_profile" --wait ||
-    fail "could not have $image notarised"
-  xcrun stapler staple "$image" || fail "could not attach the notary's ticket to $image"
+  notary submit "$made" --wait --output-format json >"$work/notary.json" || true
+  local status
+  status=$(answered status)
+  [ -n "$status" ] || fail "could not have $image notarised: $(cat "$work/notary.json")"
+  if [ "$status" != Accepted ]; then
+    notary log "$(answered id)" >&2 || true
+    fail "the notary did not accept $image: $status"
+  fi
+  xcrun stapler staple "$made" || fail "could not attach the notary's ticket to $image"
 }
 
 check_image() {
   local volume_path=$work/check
   local seen=$volume_path/${staged##*/}
-  hdiutil attach -quiet -readonly -nobrowse -mountpoint "$volume_path" "$image" ||
+  mkdir "$volume_path"
+  disk_image attach -readonly -nobrowse -mountpoint "$volume_path" "$made" ||
     fail "the image cannot be attached: $image"
   attached=$volume_path
   [ -d "$seen" ] || fail "the application is not at the top level of the image"
@@ -55,13 +86,22 @@ check_image() {
   codesign --verify --strict "$seen/Contents/Resources/bin/vexlink" ||
     fail "the viewer's signature in the image is not valid"
   codesign --verify --strict --deep "$seen" || fail "the application's signature is not valid"
-  leave_image
-  [ "$identity" = - ] || codesign --verify "$image" || fail "the image's signature is not valid"
-  [ -z "$notary_profile" ] || xcrun stapler validate -q "$image" ||
-    fail "the image does not carry the notary's ticket"
+  [ -z "$notary_profile" ] || spctl --assess --type execute "$seen" ||
+    fail "the system would not let people start the application"
+  leave_image || fail "could not detach $image"
+  [ "$identity" = - ] || codesign --verify "$made" || fail "the image's signature is not valid"
+  [ -z "$notary_profile" ] || check_notarised_image
+}
+
+# As the system asks when a person opens the download.
+check_notarised_image() {
+  xcrun stapler validate -q "$made" || fail "the image does not carry the notary's ticket"
+  spctl --assess --type open --context context:primary-signature "$made" ||
+    fail "the system would not let people open the image"
 }
 
 leave_image() {
-  [ -z "$attached" ] || hdiutil detach -quiet "$attached" || echo "could not detach $attached" >&2
+  [ -n "$attached" ] || return 0
+  disk_image detach "$attached" || return 1
   attached=''
 }
