@@ -1,5 +1,5 @@
-# launcher_toolkit is AppKit as the window's code knows it. Without a toolkit on the machine there is
-# no such target; the logic and its tests are built all the same.
+# launcher_toolkit is the window toolkit: AppKit on macOS, Qt on Linux. Without one on the machine
+# there is no such target; the logic and its tests are built all the same.
 
 if(APPLE)
   find_library(APPKIT_FRAMEWORK AppKit)
@@ -10,10 +10,12 @@ if(APPLE)
       "-framework Foundation" "-framework CoreFoundation" objc)
   endif()
 else()
-  include(GNUstep)
-  if(TARGET gnustep)
-    add_subdirectory(app/gnustep)
-    add_library(launcher_toolkit ALIAS appkit_likeness)
+  find_package(Qt6 QUIET COMPONENTS Widgets)
+  if(TARGET Qt6::Widgets)
+    add_library(launcher_toolkit INTERFACE)
+    target_link_libraries(launcher_toolkit INTERFACE Qt6::Widgets)
+    target_compile_definitions(launcher_toolkit INTERFACE
+      QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS)
   endif()
 endif()
 

@@ -35,6 +35,9 @@ struct ControllerServices {
   WorkQueue& mainQueue;
 };
 
+/// What the application's window is given. Defined by whoever assembles the program.
+const ControllerServices& controllerServices();
+
 /// Everything that the launcher's window decides.
 ///
 /// The state is never stored: each evaluation computes it from the two fields and the process

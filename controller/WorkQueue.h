@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 namespace launcher {
 
@@ -12,5 +13,9 @@ class WorkQueue {
   /// Queues an item and returns at once. Any thread.
   virtual void add(std::function<void()> item) = 0;
 };
+
+/// The queue of the main thread. Its items run one after another: one that is added while another
+/// shows an alert runs after that alert has been dismissed.
+std::unique_ptr<WorkQueue> makeMainQueue();
 
 }  // namespace launcher

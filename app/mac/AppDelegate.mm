@@ -3,7 +3,7 @@
 #include <csignal>
 
 #include "app/QuitSequence.h"
-#include "app/mac/Services.h"
+#include "app/Services.h"
 
 @implementation AppDelegate
 

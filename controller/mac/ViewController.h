@@ -5,13 +5,7 @@
 #include <memory>
 
 namespace launcher {
-struct ControllerServices;
 class WindowLogic;
-
-/// What a window's controller is given when the layout resource creates it. Defined by whoever
-/// assembles the program.
-const ControllerServices& controllerServices();
-
 }  // namespace launcher
 
 /// The controller of the launcher's window, as the toolkit and the layout resource reach it. It

@@ -18,7 +18,9 @@ def read(language):
 
 def comments_of_what_is_shown():
     """The code brings its comments along; those of the layout are the English table's."""
-    of_code = texts_of_code((ROOT / "controller" / "Texts.h").read_text(encoding="utf-8"))
+    of_code = {}
+    for path in sorted(ROOT.glob("controller/**/*.[hc]*")):
+        of_code |= texts_of_code(path.read_text(encoding="utf-8"))
     of_english = {entry.key: entry.comment for entry in read("en")}
     of_layout = {text: of_english.get(text) for xib in sorted(RESOURCES.glob("**/*.xib"))
                  for text in texts_of_layout(xib.read_bytes())}

@@ -19,15 +19,16 @@ MAY_INCLUDE = {
     "app": ["base", "process", "net", "discovery", "controller", "app"],
     "viewer": ["viewer"],
 }
-STAND_INS = ("app/gnustep", "app/desktop")  # the other platform's toolkit on this one
 
 # What tells whose a header of the system is.
 SYSTEM_HEADERS = {
     "mac": re.compile(r"(AppKit|Cocoa|CoreFoundation|CoreGraphics|CoreServices|CFNetwork|Foundation|"
                       r"QuartzCore|dispatch|mach|objc)/|sys/sysctl\.h$"),
-    "linux": re.compile(r"(Q[A-Z]\w*|X11|gio|glib|linux|qt\w*|unicode)(/|$)|(expat|libpsl)\.h$|"
+    "linux": re.compile(r"(X11|gio|glib|linux|unicode)(/|$)|(expat|libpsl)\.h$|"
                         r"sys/(epoll|inotify|pidfd|prctl|signalfd|sysmacros)\.h$"),
 }
+WINDOW_TOOLKIT = re.compile(r"Q[A-Z]\w*$")
+WINDOWS = ["app/linux", "controller/linux", "viewer/linux"]
 SUFFIX = re.compile(r"_(mac|linux|gnustep|foundation)(Test)?\.\w+$")
 INCLUDE = re.compile(r'^\s*#\s*(include|import)\s*[<"]([^>"]+)[>"]', re.MULTILINE)
 
@@ -52,6 +53,9 @@ def _misplaced(path, parts):
         for name in includes(path):
             if headers.match(name) and platform != owner:
                 yield f"<{name}> belongs into a {owner}/ folder"
+    for name in includes(path):
+        if WINDOW_TOOLKIT.match(name) and "/".join(parts[:2]) not in WINDOWS:
+            yield f"<{name}> belongs to a window: {', '.join(WINDOWS)}"
 
 
 def _wrong_arrows(parts, names):
@@ -71,7 +75,7 @@ def faults(path):
     """What is wrong with a product file's place and its includes, a line each."""
     relative = path.relative_to(ROOT)
     parts = relative.parts
-    if parts[0] not in MAY_INCLUDE or str(relative).startswith(STAND_INS):
+    if parts[0] not in MAY_INCLUDE:
         return []
     return [*_misplaced(path, parts), *_wrong_arrows(parts, includes(path))]
 

@@ -10,7 +10,7 @@
 #include <csignal>
 #include <string>
 
-#include "app/mac/Services.h"
+#include "app/Services.h"
 #import "tests/window/mac/Messages.h"
 #import "tests/window/mac/Stage.h"
 

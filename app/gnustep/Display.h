@@ -1,8 +1,0 @@
-#pragma once
-
-namespace launcher {
-
-/// Whether there is a display to show a window on.
-bool hasDisplay();
-
-}  // namespace launcher

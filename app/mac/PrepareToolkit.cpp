@@ -1,8 +1,0 @@
-#include "app/mac/PrepareToolkit.h"
-
-namespace launcher {
-
-/// AppKit is ready as it is.
-void prepareToolkit() {}
-
-}  // namespace launcher

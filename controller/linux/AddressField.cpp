@@ -1,0 +1,67 @@
+#include "controller/linux/AddressField.h"
+
+#include <QPainter>
+#include <limits>
+
+namespace launcher {
+namespace {
+
+constexpr qreal borderWidth = 1;
+constexpr qreal cornerRadius = 5;
+constexpr qreal focusWidth = 2;
+
+QPalette withoutBackground(QPalette palette) {
+  palette.setBrush(QPalette::Base, Qt::transparent);
+  return palette;
+}
+
+/// A rectangle whose line of a width lies inside of it.
+QRectF lineInside(const QRectF& outer, qreal width) {
+  const qreal half = width / 2;
+  return outer.adjusted(half, half, -half, -half);
+}
+
+}  // namespace
+
+AddressField::AddressField(const QString& placeholder) {
+  setPlaceholderText(placeholder);
+  setMaxLength(std::numeric_limits<int>::max());
+  setFrame(false);
+  setPalette(withoutBackground(palette()));
+  constexpr int margin = 6;
+  setTextMargins(margin, margin, margin, margin);
+}
+
+void AddressField::setBackground(const QColor& colour) {
+  if (background_ == colour) return;
+  if (!background_) blackenText();
+  background_ = colour;
+  update();
+}
+
+void AddressField::blackenText() {
+  QPalette readable = palette();
+  readable.setColor(QPalette::Text, Qt::black);
+  readable.setColor(QPalette::PlaceholderText, Qt::darkGray);
+  setPalette(readable);
+}
+
+/// The border and the background; the text comes above them.
+void AddressField::paintEvent(QPaintEvent* event) {
+  {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF field = QRectF(rect()).adjusted(focusWidth, focusWidth, -focusWidth, -focusWidth);
+    if (hasFocus()) {
+      painter.setPen(QPen(palette().color(QPalette::Highlight), focusWidth));
+      painter.drawRoundedRect(lineInside(rect(), focusWidth), cornerRadius + focusWidth / 2,
+                              cornerRadius + focusWidth / 2);
+    }
+    painter.setPen(QPen(Qt::black, borderWidth));
+    painter.setBrush(background_ ? QBrush(*background_) : QBrush());
+    painter.drawRoundedRect(lineInside(field, borderWidth), cornerRadius, cornerRadius);
+  }
+  QLineEdit::paintEvent(event);
+}
+
+}  // namespace launcher

@@ -1,0 +1,55 @@
+#include "controller/linux/StatusLine.h"
+
+#include <QAccessibleWidget>
+#include <algorithm>
+
+namespace launcher {
+namespace {
+
+constexpr int lines = 2;
+
+/// The narrowest width, to a character, in which a text takes no more than its lines.
+int neededWidth(const QString& text, const QFontMetrics& metrics) {
+  const auto height = [&](int width) {
+    const QRect room(0, 0, width, std::numeric_limits<int>::max());
+    return metrics.boundingRect(room, Qt::TextWordWrap, text).height();
+  };
+  int width = metrics.horizontalAdvance(text) / lines;
+  while (height(width) > lines * metrics.lineSpacing()) width += metrics.averageCharWidth();
+  return width;
+}
+
+/// Screen readers say a notification when it is shown, a label only where they are asked to.
+QAccessibleInterface* makeNotification(const QString& className, QObject* object) {
+  Q_UNUSED(className);
+  auto* line = dynamic_cast<StatusLine*>(object);
+  return line == nullptr ? nullptr : new QAccessibleWidget(line, QAccessible::Notification);
+}
+
+}  // namespace
+
+StatusLine::StatusLine(const QStringList& texts) : texts_(texts) {
+  QAccessible::installFactory(makeNotification);
+  setTextFormat(Qt::PlainText);
+  setWordWrap(true);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void StatusLine::say(const QString& text) {
+  if (text == this->text()) return;
+  setText(text);
+  setAccessibleName(text);
+  QAccessibleEvent shown(this, QAccessible::ObjectShow);
+  QAccessible::updateAccessibility(&shown);
+}
+
+QSize StatusLine::sizeHint() const { return minimumSizeHint(); }
+
+QSize StatusLine::minimumSizeHint() const {
+  const QFontMetrics metrics = fontMetrics();
+  int width = 0;
+  for (const QString& text : texts_) width = std::max(width, neededWidth(text, metrics));
+  return {width, lines * metrics.lineSpacing()};
+}
+
+}  // namespace launcher

@@ -1,0 +1,60 @@
+#include "controller/linux/WorkQueues.h"
+
+#include <QObject>
+#include <deque>
+#include <mutex>
+#include <thread>
+#include <utility>
+
+namespace launcher {
+namespace {
+
+using Item = std::function<void()>;
+
+/// The event loop's queue would go on inside an item that shows an alert, hence one of our own.
+class MainQueue : public WorkQueue, private QObject {
+ public:
+  void add(Item item) override {
+    {
+      const std::lock_guard lock(mutex_);
+      waiting_.push_back(std::move(item));
+    }
+    wake();
+  }
+
+ private:
+  void wake() {
+    QMetaObject::invokeMethod(
+        this, [this] { runNext(); }, Qt::QueuedConnection);
+  }
+
+  void runNext() {
+    if (running_) return;
+    const Item item = takeNext();
+    if (!item) return;
+    running_ = true;
+    item();
+    running_ = false;
+    wake();
+  }
+
+  Item takeNext() {
+    const std::lock_guard lock(mutex_);
+    if (waiting_.empty()) return nullptr;
+    Item next = std::move(waiting_.front());
+    waiting_.pop_front();
+    return next;
+  }
+
+  bool running_ = false;  // main thread only
+  std::mutex mutex_;
+  std::deque<Item> waiting_;
+};
+
+}  // namespace
+
+void BackgroundQueue::add(Item item) { std::thread(std::move(item)).detach(); }
+
+std::unique_ptr<WorkQueue> makeMainQueue() { return std::make_unique<MainQueue>(); }
+
+}  // namespace launcher
