@@ -24,6 +24,7 @@ SUITES = {
     "endurance": GoogleTestSuite("endurance-tests", apart=True),
     "window": GoogleTestSuite("appkit-window-tests", apart=True, display=True),
     "e2e": PythonSuite("tests/e2e", **E2E),
+    "bundle": PythonSuite("tests/portable", targets=["application"]),
     "macos": PythonSuite("tests/macos"),
     "sanitizers-window": sanitizers.WINDOW,
     "starts": PythonSuite("tests/e2e", pattern="starts.py", **E2E),
