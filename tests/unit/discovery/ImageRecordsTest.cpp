@@ -197,5 +197,11 @@ TEST_F(ImageRecordsTest, VolumesThatLackSomethingArePassedOver) {
   }
 }
 
+TEST_F(ImageRecordsTest, AVolumeThatIsNotMountedIsNoMatch) {
+  EXPECT_EQ(process(listing({image("/a.dmg", {Dictionary{{"dev-entry", "/dev/disk2"}}})})),
+            std::nullopt);
+  EXPECT_THAT(asked_, ElementsAre());
+}
+
 }  // namespace
 }  // namespace launcher

@@ -132,6 +132,12 @@ TEST_F(LaunchControlTest, AViewerOfSomebodyElseIsWaitedForButNotStopped) {
   expectSleeps({1.0, 1.0, 1.0, 1.0, 1.0});
 }
 
+TEST_F(LaunchControlTest, AnIdentifierOfZeroIsAViewerThatRuns) {
+  table_.upcoming = {{processRecord(0, "vexlink")}, noViewer};
+  launch();
+  expectSleeps({1.0});
+}
+
 TEST_F(LaunchControlTest, StopsWaitsAndStartsInThisOrder) {
   launch();
   table_.log = sleeper_.log = starter_.log;

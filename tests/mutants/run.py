@@ -1,0 +1,138 @@
+"""Makes each mutant in a copy of the project and asks the tests whether they notice:
+run.py [NAME...], where a name is part of a file's path or of a rule."""
+
+import concurrent.futures
+import os
+import pathlib
+import queue
+import shutil
+import subprocess
+import sys
+
+from table import BrokenTable, read
+
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+COPIES = ROOT / "build" / "mutants"
+APART = ROOT / "tests" / "runner" / "apart.py"
+LIMIT_SECONDS = 120  # a mutant that makes the tests hang is noticed, too
+
+# Those that ask first are quick. A test program ends with another status than 0 where it notices.
+PROGRAMS = ["unit-tests", "diagnostics-tests", "contract-tests"]
+
+
+class Copy:
+    """A copy of the project, built without optimization."""
+
+    def __init__(self, number):
+        self._root = COPIES / str(number)
+        self._build = self._root / "build"
+
+    def prepare(self):
+        """Brings the copy up to date, builds it, and sees that its tests pass."""
+        files = subprocess.run(["git", "ls-files", "-z"], cwd=ROOT, check=True, text=True,
+                               stdout=subprocess.PIPE).stdout.split("\0")
+        for name in filter(None, files):
+            self._take(name)
+        subprocess.run(["cmake", "-S", self._root, "-B", self._build, "-G", "Ninja",
+                        "-DCMAKE_CXX_COMPILER=clang++", "-DCMAKE_BUILD_TYPE=None",
+                        "-DCMAKE_CXX_FLAGS=-w", "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"], check=True, stdout=subprocess.DEVNULL)
+        for program in PROGRAMS:
+            if not self._compiles(program) or not self._passes(program):
+                raise BrokenTable(f"{program} does not pass without a mutant")
+
+    def _take(self, name):
+        source, target = ROOT / name, self._root / name
+        if source.is_file() and not (target.exists() and target.read_bytes() == source.read_bytes()):
+            target.parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy(source, target)
+
+    def _compiles(self, program):
+        done = subprocess.run(["cmake", "--build", self._build, "--target", program],
+                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+        self.output = done.stdout
+        return done.returncode == 0
+
+    def _passes(self, program):
+        command = [self._build / "tests" / program, "--gtest_brief=1", "--gtest_fail_fast"]
+        if program == "contract-tests":
+            scratch = self._root / "tmp"
+            shutil.rmtree(scratch, ignore_errors=True)
+            scratch.mkdir()
+            command = ["unshare", "--mount", "--pid", "--ipc", "--net", "--fork", "--kill-child",
+                       "--mount-proc", sys.executable, APART, scratch, "none", *command]
+        try:
+            return subprocess.run(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                                  stderr=subprocess.DEVNULL, timeout=LIMIT_SECONDS).returncode == 0
+        except subprocess.TimeoutExpired:
+            return False
+
+    def notices(self, mutant):
+        """The program of tests that notices a mutant; None where none does."""
+        file = self._root / mutant.file
+        before = file.read_text(encoding="utf-8")
+        file.write_text(mutant.applied(before), encoding="utf-8")
+        try:
+            return next((program for program in PROGRAMS if self._fails(program, mutant)), None)
+        finally:
+            file.write_text(before, encoding="utf-8")
+
+    def _fails(self, program, mutant):
+        if not self._compiles(program):
+            raise BrokenTable(f"{mutant.file}: does not compile: {mutant.rule}\n{self.output[-2000:]}")
+        return not self._passes(program)
+
+
+def chosen(names):
+    mutants = [mutant for path in sorted(pathlib.Path(__file__).parent.glob("*.txt"))
+               for mutant in read(path)]
+    for mutant in mutants:
+        mutant.applied((ROOT / mutant.file).read_text(encoding="utf-8"))
+    return [mutant for mutant in mutants
+            if not names or any(name in f"{mutant.file} {mutant.rule}" for name in names)]
+
+
+def judged(mutants):
+    """Each mutant with the program that notices it, as they come."""
+    copies = queue.Queue()
+
+    def judge(mutant):
+        copy = copies.get()
+        try:
+            return mutant, copy.notices(mutant)
+        finally:
+            copies.put(copy)
+
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        made = [Copy(number) for number in range(os.cpu_count())]
+        for _ in pool.map(Copy.prepare, made):
+            pass
+        for copy in made:
+            copies.put(copy)
+        yield from pool.map(judge, mutants)
+
+
+def main(names):
+    noticed = survive = equivalent = 0
+    for mutant, program in judged(chosen(names)):
+        about = f"{mutant.file}: {mutant.rule}"
+        if program is not None:
+            if mutant.equivalent:
+                raise BrokenTable(f"{about} is marked as equivalent, but {program} notices it")
+            noticed += 1
+            print(f"noticed by {program}: {about}", flush=True)
+        elif mutant.equivalent:
+            equivalent += 1
+            print(f"equivalent: {about} ({mutant.equivalent})", flush=True)
+        else:
+            survive += 1
+            print(f"SURVIVES: {about}\n    {mutant.old}\n"
+                  f"    -> {' '.join(mutant.new).strip() or 'gone'}", flush=True)
+    print(f"{noticed} noticed, {survive} survive, {equivalent} equivalent")
+    return 0 if survive == 0 and noticed > 0 else 1
+
+
+if __name__ == "__main__":
+    try:
+        sys.exit(main(sys.argv[1:]))
+    except BrokenTable as error:
+        sys.exit(f"script/mutants: {error}")

@@ -1,0 +1,65 @@
+"""The table of mutants: changes of the source that each break one rule.
+
+A file of the table holds entries like this one, parted by blank lines:
+
+    process/ProcessHelpers.cpp
+    A failed size probe gives no snapshot.
+    - if (probeError(table, length) != 0) return list;
+    + probeError(table, length);
+
+The line after "-" is found by its text without the blanks around it; the lines after "+" stand in its
+place, none where the line goes. A line that occurs several times is told by "- 2:", the second of
+them. An entry may end with a line "= REASON" where nobody can notice the change, which needs no test.
+"""
+
+import re
+from dataclasses import dataclass, field
+from typing import List
+
+
+class BrokenTable(Exception):
+    """An entry that cannot be read, or whose line is gone."""
+
+
+@dataclass
+class Mutant:
+    file: str
+    rule: str
+    old: str = ""
+    place: int = 1
+    new: List[str] = field(default_factory=list)
+    equivalent: str = ""
+
+    def applied(self, source):
+        """The source with the change made."""
+        lines = source.splitlines()
+        found = [number for number, line in enumerate(lines) if line.strip() == self.old]
+        if len(found) < self.place or (len(found) > 1 and self.place == 0):
+            raise BrokenTable(f"{self.file}: {len(found)} lines read: {self.old}")
+        number = found[max(self.place, 1) - 1]
+        lines[number:number + 1] = self.new
+        return "\n".join(lines) + "\n"
+
+
+def _mutant(text):
+    file, rule, *changes = text.splitlines()
+    mutant = Mutant(file, rule, place=0)
+    for line in changes:
+        old = re.fullmatch(r"- (?:(\d+): )?(.*)", line)
+        if old:
+            mutant.place, mutant.old = int(old[1] or 0), old[2].strip()
+        elif line.startswith("+ "):
+            mutant.new.append(line[2:])
+        elif line.startswith("= "):
+            mutant.equivalent = line[2:]
+        else:
+            raise BrokenTable(f"not understood: {line}")
+    if not mutant.old:
+        raise BrokenTable(f"no line to change: {file}: {rule}")
+    return mutant
+
+
+def read(path):
+    """The mutants of a file of the table."""
+    entries = re.split(r"\n\s*\n", path.read_text(encoding="utf-8").strip())
+    return [_mutant(entry) for entry in entries]
