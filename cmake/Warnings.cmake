@@ -1,10 +1,12 @@
-# Compiler settings for our own code: every warning is an error.
+# The warnings that our own code is compiled with.
+
+option(LAUNCHER_WARNINGS_AS_ERRORS "Make a warning in our own code an error" OFF)
 
 add_library(launcher_warnings INTERFACE)
 target_compile_options(launcher_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wold-style-cast
   -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Wnull-dereference
-  -Wreserved-identifier -Werror)
+  -Wreserved-identifier $<$<BOOL:${LAUNCHER_WARNINGS_AS_ERRORS}>:-Werror>)
 
 # A designated initialiser names what differs from the defaults. Newer compilers warn of that.
 include(CheckCXXCompilerFlag)

@@ -2,7 +2,6 @@
 script/bench."""
 
 import json
-import os
 import pathlib
 import subprocess
 import sys
@@ -10,8 +9,7 @@ import tempfile
 
 import plot
 import table
-from apart import apart
-from project import BUILD, ROOT, build
+from project import APART, BUILD, ROOT, build
 
 DOCUMENT = ROOT / "docs/performance.md"
 NUMBERS = ROOT / "docs/performance.json"
@@ -22,10 +20,8 @@ def measured(groups):
     with tempfile.TemporaryDirectory(prefix="bench-", dir=BUILD) as place:
         folder = pathlib.Path(place)
         results = folder / "results.json"
-        (folder / "tmp").mkdir()
-        command = [sys.executable, "-B", str(ROOT / "bench/runner/measure.py"), str(results), *groups]
-        done = subprocess.run(apart(command, folder=folder / "tmp", display=True),
-                              stdin=subprocess.DEVNULL, env={**os.environ})
+        done = subprocess.run([APART, "--display", sys.executable, "-B", ROOT / "bench/runner/measure.py",
+                               results, *groups], stdin=subprocess.DEVNULL)
         if not results.exists():
             raise SystemExit(f"script/bench: nothing was measured (status {done.returncode})")
         return json.loads(results.read_text())

@@ -11,12 +11,13 @@ import subprocess
 import sys
 import tempfile
 
-from project import BUILD
 from desktop.attached_image import attached
 from desktop.download import ORIGIN
 from desktop.launcher import PROGRAM, LauncherWindow
 from desktop.waiting import wait_until
 from desktop.window import Window, windows_of
+
+BUILD = pathlib.Path(__file__).resolve().parents[2] / "build"
 
 APPLICATION = "VorxLauncher.app"
 VIEWER = "Resources/bin/vexlink"

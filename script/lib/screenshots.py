@@ -4,10 +4,8 @@ import pathlib
 import subprocess
 import sys
 
-from apart import apart
-from execution import scratch_folder
-from project import ROOT
-
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+APART = ROOT / "tests/runner/apart.py"
 PICTURES = ROOT / "docs" / "screenshots"
 TAKER = pathlib.Path(__file__).with_name("picture_taker.py")
 
@@ -21,10 +19,8 @@ def main(*languages):
         folder = PICTURES / language
         folder.mkdir(parents=True, exist_ok=True)
         print(folder.relative_to(ROOT), flush=True)
-        with scratch_folder() as scratch:
-            subprocess.run(apart([sys.executable, "-B", str(TAKER), language, str(folder)],
-                                 folder=scratch, display=True),
-                           check=True, stdin=subprocess.DEVNULL)
+        subprocess.run([APART, "--display", sys.executable, "-B", TAKER, language, folder], check=True,
+                       stdin=subprocess.DEVNULL)
 
 
 main(*sys.argv[1:])

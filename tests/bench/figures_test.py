@@ -5,7 +5,7 @@ import sys
 import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
-sys.path[:0] = [str(ROOT / "bench/runner"), str(ROOT / "tests/runner")]
+sys.path.insert(0, str(ROOT / "bench/runner"))
 
 import measure
 import plot

@@ -7,7 +7,7 @@
 
 namespace {
 
-// The exit status that tests/runner takes for a reason to skip the suite.
+// The exit status that makes CTest skip the suite.
 constexpr int withoutDisplay = 77;
 
 }  // namespace

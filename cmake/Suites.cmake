@@ -1,0 +1,66 @@
+# A suite is a label of CTest's: ctest -L '^unit$' brings what the suite needs up to date and runs it.
+#
+#   launcher_test(SUITE [NAME name]   what tells it from the suite's other tests
+#                 [APART | DISPLAY]   apart from the machine's processes; with a display there, too
+#                 [BY_NAME]           takes minutes, so only where the suite is named (ctest -C by-name)
+#                 [BUILDS target...]  what it needs of this build
+#                 [PRESET preset]     whose build it needs, with the targets that the preset names
+#                 [ENVIRONMENT variable=value...]
+#                 COMMAND command...)
+#
+# A program of GoogleTest or pytest leaves a record in build/results, which tests/runner/summary.py
+# counts test by test.
+function(launcher_test suite)
+  cmake_parse_arguments(PARSE_ARGV 1 test
+    "APART;DISPLAY;BY_NAME" "NAME;PRESET" "BUILDS;ENVIRONMENT;COMMAND")
+  string(JOIN "." name ${suite} ${test_NAME})
+
+  set(apart)
+  if(test_DISPLAY)
+    set(apart "${CMAKE_SOURCE_DIR}/tests/runner/apart.py" --display)
+  elseif(test_APART)
+    set(apart "${CMAKE_SOURCE_DIR}/tests/runner/apart.py")
+  endif()
+  set(only)
+  if(test_BY_NAME)
+    set(only CONFIGURATIONS by-name)
+  endif()
+  add_test(NAME ${name} COMMAND ${apart} ${test_COMMAND} WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}" ${only})
+
+  foreach(target IN LISTS test_BUILDS)
+    launcher_build_step(${target} "${CMAKE_COMMAND}" --build "${CMAKE_BINARY_DIR}" --target ${target})
+    set_tests_properties(build.${target} PROPERTIES RESOURCE_LOCK build)
+  endforeach()
+  if(test_PRESET)
+    launcher_build_step(${test_PRESET} "${CMAKE_COMMAND}" --workflow --preset ${test_PRESET})
+  endif()
+
+  set(record "${CMAKE_BINARY_DIR}/results/${name}.xml")
+  set_tests_properties(${name} PROPERTIES
+    LABELS ${suite}
+    TIMEOUT 900
+    SKIP_RETURN_CODE 77
+    FIXTURES_REQUIRED "${test_BUILDS};${test_PRESET}"
+    ENVIRONMENT "GTEST_OUTPUT=xml:${record};GTEST_BRIEF=1;PYTEST_ADDOPTS=--junitxml=${record};${test_ENVIRONMENT}")
+endfunction()
+
+# A test that brings something up to date; those that need it run after it.
+function(launcher_build_step name)
+  if(NOT TEST build.${name})
+    add_test(NAME build.${name} COMMAND ${ARGN} WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}")
+    set_tests_properties(build.${name} PROPERTIES FIXTURES_SETUP ${name} TIMEOUT 3600)
+  endif()
+endfunction()
+
+# A suite, or a part of one, that is a folder of Python tests. PATTERN tells the files, *_test.py
+# unless told otherwise; the rest is as above.
+find_program(PYTEST NAMES pytest-3 pytest)
+function(launcher_python_test suite folder)
+  cmake_parse_arguments(PARSE_ARGV 2 test "" "PATTERN" "")
+  if(NOT test_PATTERN)
+    set(test_PATTERN "*_test.py")
+  endif()
+  launcher_test(${suite} ${test_UNPARSED_ARGUMENTS}
+    ENVIRONMENT "PYTHONPATH=${CMAKE_SOURCE_DIR}/script/lib" PYTHONDONTWRITEBYTECODE=1
+    COMMAND "${PYTEST}" -q -p no:cacheprovider -o "python_files=${test_PATTERN}" "${folder}")
+endfunction()

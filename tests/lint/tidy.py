@@ -1,0 +1,77 @@
+#!/usr/bin/env python3
+"""The source keeps the habits that .clang-tidy asks for.
+
+A file is looked at again only after it, a header of ours that it reaches, its compile command or the
+lists of habits have changed.
+"""
+
+import concurrent.futures
+import hashlib
+import json
+import os
+import pathlib
+import subprocess
+import sys
+
+from arrows import ROOT, includes
+
+LISTS = [ROOT / ".clang-tidy", ROOT / "tests/.clang-tidy"]
+COMMANDS = ROOT / "build/lint"
+REMEMBERED = COMMANDS / "passed"
+
+
+def output_of(*command):
+    return subprocess.run(command, cwd=ROOT, check=True, stdin=subprocess.DEVNULL,
+                          stdout=subprocess.PIPE).stdout
+
+
+def reached(path, seen):
+    """The file and every header of ours that it reaches."""
+    if path not in seen:
+        seen.add(path)
+        for name in includes(path):
+            for candidate in (ROOT / name, path.parent / name):
+                if candidate.is_file():
+                    reached(candidate.resolve(), seen)
+    return seen
+
+
+def fingerprint(path, command, habits):
+    digest = hashlib.sha256(habits + command.encode())
+    for file in sorted(reached(path, set())):
+        digest.update(file.read_bytes())
+    return digest.hexdigest()
+
+
+def compiled():
+    """Our own files that the build compiles, each with its compile command."""
+    for entry in json.loads((COMMANDS / "compile_commands.json").read_text()):
+        path = pathlib.Path(entry["file"]).resolve()
+        if path.is_relative_to(ROOT) and not path.is_relative_to(ROOT / "build"):
+            yield path, entry["command"]
+
+
+def check(path, mark):
+    """Whether a file passes; what is wrong with it is printed."""
+    if mark.exists():
+        return True
+    done = subprocess.run(["nice", "clang-tidy", "--quiet", f"-p={COMMANDS}", path], text=True,
+                          stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.STDOUT)
+    if done.returncode != 0:
+        print(done.stdout, flush=True)
+        return False
+    mark.touch()
+    return True
+
+
+def main():
+    output_of("cmake", "--preset", "lint")
+    REMEMBERED.mkdir(exist_ok=True)
+    habits = output_of("clang-tidy", "--version") + b"".join(path.read_bytes() for path in LISTS)
+    marks = {path: REMEMBERED / fingerprint(path, command, habits) for path, command in compiled()}
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        return 0 if all(list(pool.map(check, marks.keys(), marks.values()))) and marks else 1
+
+
+if __name__ == "__main__":
+    sys.exit(main())

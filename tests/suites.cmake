@@ -1,0 +1,57 @@
+# Every suite. CONTRIBUTING.md says what each asks.
+
+set(lint "${CMAKE_SOURCE_DIR}/tests/lint")
+launcher_python_test(strings tests/strings)
+launcher_python_test(icon tests/icon)
+launcher_python_test(scripts tests/scripts)
+launcher_test(unit BUILDS unit-tests COMMAND "$<TARGET_FILE:unit-tests>")
+launcher_test(unit NAME diagnostics BUILDS diagnostics-tests COMMAND "$<TARGET_FILE:diagnostics-tests>")
+launcher_test(contract APART BUILDS contract-tests COMMAND "$<TARGET_FILE:contract-tests>")
+if(TARGET appkit-window-tests)
+  launcher_test(window NAME appkit DISPLAY BUILDS appkit-window-tests COMMAND "$<TARGET_FILE:appkit-window-tests>")
+endif()
+
+# The others drive an X display, or look from Linux at what a Mac meets by itself.
+if(APPLE)
+  return()
+endif()
+
+launcher_test(lint NAME format COMMAND "${lint}/format")
+launcher_test(lint NAME shell COMMAND "${lint}/shell")
+launcher_test(lint NAME arrows COMMAND "${lint}/arrows.py")
+launcher_test(lint NAME tidy COMMAND "${lint}/tidy.py")
+launcher_python_test(bench tests/bench)
+launcher_test(endurance APART BUILDS endurance-tests COMMAND "$<TARGET_FILE:endurance-tests>")
+launcher_python_test(e2e tests/e2e DISPLAY BUILDS application e2e-doubles)
+launcher_python_test(starts tests/e2e PATTERN starts.py BY_NAME DISPLAY BUILDS application e2e-doubles)
+launcher_python_test(bundle tests/portable BUILDS application)
+launcher_python_test(macos tests/macos)
+
+# The tests once more, in builds that watch every access to memory and between threads. Where the
+# platform's libraries let go of nothing at their end, that is not ours to report.
+set(asan "ASAN_OPTIONS=detect_leaks=1"
+  "LSAN_OPTIONS=suppressions=${CMAKE_CURRENT_SOURCE_DIR}/sanitizers/leaks.txt:print_suppressions=0")
+set(tsan "TSAN_OPTIONS=suppressions=${CMAKE_CURRENT_SOURCE_DIR}/sanitizers/races.txt")
+foreach(preset asan tsan)
+  foreach(program unit-tests contract-tests)
+    launcher_test(sanitizers NAME ${preset}.${program} APART PRESET ${preset} ENVIRONMENT ${${preset}}
+      COMMAND "${CMAKE_SOURCE_DIR}/build/${preset}/tests/${program}")
+  endforeach()
+endforeach()
+
+# The toolkit lets go of little at its end, and is not built to be watched: of its threads only the
+# locks are seen.
+launcher_test(sanitizers-window NAME asan BY_NAME DISPLAY PRESET asan-window
+  ENVIRONMENT "ASAN_OPTIONS=detect_leaks=0" COMMAND "${CMAKE_SOURCE_DIR}/build/asan/tests/appkit-window-tests")
+launcher_test(sanitizers-window NAME tsan BY_NAME DISPLAY PRESET tsan-window
+  ENVIRONMENT "TSAN_OPTIONS=ignore_noninstrumented_modules=1"
+  COMMAND "${CMAKE_SOURCE_DIR}/build/tsan/tests/appkit-window-tests")
+
+# The same inputs each time, so that a change is judged by what it changes; script/fuzz makes up others.
+file(GLOB targets CONFIGURE_DEPENDS fuzz/*.cpp)
+foreach(source IN LISTS targets)
+  cmake_path(GET source STEM target)
+  launcher_test(fuzz NAME ${target} PRESET asan
+    COMMAND "${CMAKE_SOURCE_DIR}/tests/fuzz/run" ${target} "${CMAKE_BINARY_DIR}/results/learnt/${target}"
+            -seed=1 -runs=30000)
+endforeach()
