@@ -422,6 +422,16 @@ TEST_F(DiscoveryTest, ReplacesWhatWasTypedMeanwhile) {
   EXPECT_EQ(window.location, "https://found.example/");
 }
 
+TEST_F(DiscoveryTest, WritesALocationAsItCame) {
+  for (const char* location : {" https://found.example/ ", "\thttps://found.example/\n", " ", "",
+                               "HTTPS://Found.Example/%7e?a=b#c", "\u00e9 e\u0301"}) {
+    fill("https://typed.example", "");
+    controller.updateSourceLocation(location);
+    mainQueue.runAll();
+    EXPECT_EQ(window.location, location);
+  }
+}
+
 TEST_F(DiscoveryTest, LocationsArriveInPostingOrder) {
   controller.updateSourceLocation("https://one.example/");
   controller.updateSourceLocation("two");

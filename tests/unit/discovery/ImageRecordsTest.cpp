@@ -50,6 +50,28 @@ TEST_F(ImageRecordsTest, FindsTheImageThatHoldsTheApplication) {
   EXPECT_THAT(asked_, ElementsAre("file:///a.dmg"));
 }
 
+/// Counts how often it is asked where it lies.
+class CountedBundle : public FakeBundle {
+ public:
+  mutable int asked = 0;
+
+  std::string path() const override {
+    ++asked;
+    return FakeBundle::path();
+  }
+};
+
+TEST(ImageRecordsFolderTest, TheApplicationIsAskedOnceWhereItLies) {
+  const CountedBundle bundle;
+  const PropertyList unknown =
+      image("/a.dmg", {mountedAt("/Volumes/Vorx"), mountedAt("/Volumes/Other")});
+  const auto refuse = [](const Url&) { return std::optional<std::string>(); };
+  EXPECT_EQ(processDMGData(listing({unknown, unknown}), bundle, refuse), std::nullopt);
+  EXPECT_EQ(bundle.asked, 1);
+  EXPECT_EQ(processDMGData({}, bundle, refuse), std::nullopt);
+  EXPECT_EQ(bundle.asked, 2) << "once in each call";
+}
+
 TEST_F(ImageRecordsTest, FindsItThroughALaterVolume) {
   EXPECT_EQ(process(listing(
                 {image("/a.dmg", {Dictionary{{"dev-entry", "/dev/disk2"}},
