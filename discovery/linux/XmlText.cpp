@@ -26,11 +26,23 @@ std::string_view escaped(const char& character) {
   return isKnown ? std::string_view(&character, 1) : kReplacement;
 }
 
+/// The text without the two characters beyond ASCII that XML does not know.
+std::string withoutNoncharacters(std::string text) {
+  for (const std::string_view unknown : {"\uFFFE", "\uFFFF"}) {
+    for (std::size_t at = text.find(unknown); at != std::string::npos;
+         at = text.find(unknown, at)) {
+      text.replace(at, unknown.size(), kReplacement);
+    }
+  }
+  return text;
+}
+
 }  // namespace
 
 std::string xmlText(std::string_view bytes) {
+  const std::string known = withoutNoncharacters(repairedUtf8(bytes));
   std::string text;
-  for (const char& character : repairedUtf8(bytes)) text += escaped(character);
+  for (const char& character : known) text += escaped(character);
   return text;
 }
 

@@ -64,8 +64,9 @@ TEST(ListingTextTest, MountPointsThatAreNoTextAreFoundAllTheSame) {
   EXPECT_TRUE(canonicallyEqual(mountPointReadBack(mountPoint), mountPoint));
 }
 
-TEST(ListingTextTest, ControlCharactersAreReplaced) {
+TEST(ListingTextTest, WhatXmlCannotHoldIsReplaced) {
   EXPECT_EQ(mountPointReadBack("/a\x01\x1f"), "/a\ufffd\ufffd");
+  EXPECT_EQ(mountPointReadBack("/a\uFFFEb\uFFFF"), "/a\ufffdb\ufffd");
 }
 
 TEST(ListingTextTest, PrintsAnEmptyPropertyList) {
