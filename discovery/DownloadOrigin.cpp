@@ -6,19 +6,17 @@
 #include <string_view>
 
 #include "discovery/PropertyList.h"
+#include "discovery/PropertyListLimits.h"
 
 namespace launcher {
 namespace {
 
-/// Far more than any list of addresses needs. What claims to be larger is not worth the memory.
-constexpr std::size_t kLargestAttribute = 16U << 20U;
-
 /// The attribute's bytes at the size that it had at first: where it has shrunk meanwhile, zeros
-/// follow. Absent where it is missing, has grown or cannot be read.
+/// follow. Absent where it is missing, has grown, cannot be read or is too large to be a list.
 std::optional<std::string> attributeBytes(const std::string& path,
                                           const OriginAttribute& attribute) {
   const std::ptrdiff_t size = attribute.read(path, nullptr, 0);
-  if (size < 0 || static_cast<std::size_t>(size) > kLargestAttribute) return std::nullopt;
+  if (size < 0 || static_cast<std::size_t>(size) > kMostListBytes) return std::nullopt;
 
   std::string bytes(static_cast<std::size_t>(size), '\0');
   const std::span<std::byte> buffer = std::as_writable_bytes(std::span(bytes));

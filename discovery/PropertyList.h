@@ -18,7 +18,7 @@ class PropertyList {
     friend bool operator==(const Other&, const Other&) = default;
   };
   using Array = std::vector<PropertyList>;
-  /// Keys and values in the list's order. Where a key comes twice, the later value counts.
+  /// Keys and values in no particular order. Of two equal keys the first counts.
   using Dictionary = std::vector<std::pair<std::string, PropertyList>>;
 
   PropertyList() = default;
@@ -42,7 +42,7 @@ class PropertyList {
 
 /// The value at a key, or null where the key is missing. Keys are matched whole, case counts.
 ///
-///     valueAt({{"a", "1"}, {"a", "2"}}, "a")   -> "2"
+///     valueAt({{"a", "1"}, {"a", "2"}}, "a")   -> "1"
 const PropertyList* valueAt(const PropertyList::Dictionary& dictionary, std::string_view key);
 
 /// What reading a property list gave: the value, or what was wrong with the bytes.
@@ -52,11 +52,17 @@ struct PropertyListReading {
 };
 
 /// Reads a property list of any form that the platform knows: XML and binary on both platforms, on
-/// macOS also the old text form. Bytes that are none, are cut off, refer to themselves, or would
-/// grow out of all proportion give an error. Any thread.
+/// macOS also the old text form. Bytes that are none, are cut off or refer to themselves give an
+/// error. Any thread.
 ///
-/// On Linux a list of more than 16 MB, of more values than a listing of 10,000 attached images has,
-/// or nested more than 512 deep gives an error, too, as does anything that follows a list in XML.
+/// So does what goes too far, before time or memory is spent on it: more than 16 MB of bytes,
+/// values nested more than 512 deep, or values and keys of more than 32 MB together, at 64 bytes
+/// each and their texts, counted as often as the list refers to them. A listing of 10,000 attached
+/// images passes.
+///
+/// A list in XML may be in any encoding that the platform knows by the name which the list
+/// declares. Where a key comes twice in a dictionary, the first value counts in a binary list, the
+/// last in XML.
 ///
 ///     readPropertyList("<array><string>a</string></array>")   -> an array of the text "a"
 ///     readPropertyList("")                                    -> an error

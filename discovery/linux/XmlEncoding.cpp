@@ -1,81 +1,97 @@
 #include "discovery/linux/XmlEncoding.h"
 
-#include <algorithm>
-#include <cctype>
+#include <expat.h>
+#include <iconv.h>
+#include <strings.h>
 
-#include "base/Unicode.h"
-#include "discovery/linux/PropertyListForms.h"
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <memory>
+
+#include "discovery/PropertyListLimits.h"
 
 namespace launcher {
 namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::size_t kMostConverted = 4U << 20U;
+constexpr const char* kUtf8 = "UTF-8";
 
-void checkSize(std::string_view bytes) {
-  if (bytes.size() > kMostConverted) throw UnreadableList("more than 4 MB to convert");
+struct Mark {
+  std::string_view bytes;
+  const char* encoding;
+};
+
+/// The longer marks first: that of UTF-32 begins as that of UTF-16.
+constexpr std::array<Mark, 5> kMarks = {{{"\xFF\xFE\0\0"sv, "UTF-32LE"},
+                                         {"\0\0\xFE\xFF"sv, "UTF-32BE"},
+                                         {"\xEF\xBB\xBF"sv, kUtf8},
+                                         {"\xFE\xFF"sv, "UTF-16BE"},
+                                         {"\xFF\xFE"sv, "UTF-16LE"}}};
+
+std::string_view withoutBlanks(std::string_view document) {
+  document.remove_prefix(std::min(document.find_first_not_of(" \t\r\n"), document.size()));
+  return document;
 }
 
-enum class ByteOrder { highFirst, lowFirst };
-
-std::string fromUtf16(std::string_view bytes, ByteOrder order) {
-  checkSize(bytes);
-  if (bytes.size() % 2 != 0) throw UnreadableList("half a character");
-  std::u16string units;
-  units.reserve(bytes.size() / 2);
-  for (std::size_t at = 0; at < bytes.size(); at += 2) {
-    const auto first = static_cast<unsigned char>(bytes[at]);
-    const auto second = static_cast<unsigned char>(bytes[at + 1]);
-    units.push_back(static_cast<char16_t>(order == ByteOrder::highFirst ? first << 8U | second
-                                                                        : second << 8U | first));
-  }
-  std::string text = utf8(units);
-  if (utf16(text) != units) throw UnreadableList("half a character");
-  return text;
-}
-
-std::string fromLatin1(std::string_view bytes) {
-  checkSize(bytes);
-  std::string text;
-  text.reserve(bytes.size());
-  for (const char byte : bytes) text += utf8(char32_t{static_cast<unsigned char>(byte)});
-  return text;
-}
-
-/// The encoding that a declaration names, in lower case; empty where there is none.
+/// The encoding that the document's declaration names, else UTF-8.
 std::string declaredEncoding(std::string_view document) {
-  constexpr std::string_view kAttribute = "encoding";
-  if (!document.starts_with("<?xml")) return {};
-  std::string_view rest = document.substr(0, document.find("?>"));
-  rest.remove_prefix(std::min(rest.find(kAttribute), rest.size()));
-  rest.remove_prefix(std::min(rest.find_first_of("\"'"), rest.size()));
-  if (rest.empty()) return {};
-  const char quote = rest.front();
-  rest.remove_prefix(1);
-  std::string name(rest.substr(0, rest.find(quote)));
-  std::transform(name.begin(), name.end(), name.begin(),
-                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  constexpr std::size_t kLongestDeclaration = 200;
+  if (!document.starts_with("<?xml")) return kUtf8;
+  const std::unique_ptr<XML_ParserStruct, void (*)(XML_Parser)> parser(XML_ParserCreate(kUtf8),
+                                                                       XML_ParserFree);
+  std::string name = kUtf8;
+  XML_SetUserData(parser.get(), &name);
+  XML_SetXmlDeclHandler(parser.get(),
+                        [](void* found, const XML_Char*, const XML_Char* encoding, int) {
+                          if (encoding != nullptr) *static_cast<std::string*>(found) = encoding;
+                        });
+  const std::string_view start = document.substr(0, kLongestDeclaration);
+  XML_Parse(parser.get(), start.data(), static_cast<int>(start.size()), XML_FALSE);
   return name;
+}
+
+std::string inUtf8From(const std::string& encoding, std::string_view bytes) {
+  const iconv_t opened = iconv_open(kUtf8, encoding.c_str());
+  const bool isKnown = opened != iconv_t(-1);  // NOLINT: so the function tells of a failure
+  if (!isKnown) throw UnreadableList("an unknown encoding: " + encoding);
+  const std::unique_ptr<void, int (*)(iconv_t)> conversion(opened, iconv_close);
+
+  std::string text;
+  char* input = const_cast<char*>(bytes.data());  // NOLINT: so the function takes what it reads
+  std::size_t left = bytes.size();
+  while (left > 0) {
+    std::array<char, 16384> piece{};
+    char* output = piece.data();
+    std::size_t room = piece.size();
+    const std::size_t answer = iconv(conversion.get(), &input, &left, &output, &room);
+    const bool isFull = answer == ~std::size_t{0} && errno == E2BIG;
+    if (left > 0 && !isFull) throw UnreadableList("bytes that are no " + encoding);
+    text.append(piece.data(), piece.size() - room);
+    if (text.size() > kMostListBytes) throw UnreadableList("more than 16 MB");
+  }
+  return text;
+}
+
+std::string_view inUtf8From(const std::string& encoding, std::string_view bytes,
+                            std::string& converted) {
+  const bool isUtf8 = strcasecmp(encoding.c_str(), kUtf8) == 0;
+  const std::string_view text = isUtf8 ? bytes : (converted = inUtf8From(encoding, bytes));
+  // The parser would take it for a sign of UTF-16.
+  if (text.find('\0') != std::string_view::npos) throw UnreadableList("a NUL in a text");
+  return withoutBlanks(text);
 }
 
 }  // namespace
 
 std::string_view inUtf8(std::string_view document, std::string& converted) {
-  if (document.starts_with("\xEF\xBB\xBF")) return document.substr(3);
-  if (document.starts_with("\xFE\xFF")) {
-    return converted = fromUtf16(document.substr(2), ByteOrder::highFirst);
+  for (const auto& [bytes, encoding] : kMarks) {
+    if (!document.starts_with(bytes)) continue;
+    return inUtf8From(encoding, document.substr(bytes.size()), converted);
   }
-  if (document.starts_with("\xFF\xFE")) {
-    return converted = fromUtf16(document.substr(2), ByteOrder::lowFirst);
-  }
-  if (document.starts_with("\0<"sv)) return converted = fromUtf16(document, ByteOrder::highFirst);
-  if (document.starts_with("<\0"sv)) return converted = fromUtf16(document, ByteOrder::lowFirst);
-
-  const std::string encoding = declaredEncoding(document);
-  if (encoding.empty() || encoding == "utf-8" || encoding == "us-ascii") return document;
-  if (encoding == "iso-8859-1") return converted = fromLatin1(document);
-  throw UnreadableList("an unknown encoding: " + encoding.substr(0, 40));
+  document = withoutBlanks(document);
+  return inUtf8From(declaredEncoding(document), document, converted);
 }
 
 }  // namespace launcher

@@ -5,12 +5,12 @@
 
 namespace launcher {
 
-/// An XML document in UTF-8, without a byte-order mark.
+/// An XML document in UTF-8, without a byte-order mark and without blanks before it.
 ///
-/// Its encoding is what its first bytes show (UTF-8 or UTF-16, of either byte order), else what its
-/// declaration names (UTF-8, US-ASCII or ISO-8859-1), else UTF-8. Throws `UnreadableList` for any
-/// other. What is UTF-8 already is neither copied nor checked. What is not goes to `converted`, and
-/// may have 4 MB.
+/// Its encoding is the one of its byte-order mark, else what its declaration names, as `iconv`
+/// knows it, else UTF-8. What is UTF-8 already is neither copied nor checked; what is not goes to
+/// `converted`. Throws `UnreadableList` for an unknown encoding, for bytes that are no text in it,
+/// and for a text of more than 16 MB.
 std::string_view inUtf8(std::string_view document, std::string& converted);
 
 }  // namespace launcher

@@ -3,43 +3,31 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
+#include <string>
 #include <system_error>
+
+#include "discovery/PropertyListLimits.h"
 
 namespace launcher {
 namespace {
 
-constexpr std::uint64_t kLowestMagnitude = std::uint64_t{1} << 63U;
-
 bool isDigit(char character) { return character >= '0' && character <= '9'; }
 
-std::string_view withoutLeading(std::string_view text, std::string_view characters) {
-  text.remove_prefix(std::min(text.find_first_not_of(characters), text.size()));
+std::string_view withoutBlanks(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
   return text;
 }
 
-/// Whether the text has the pattern's characters, "d" standing for a digit.
-bool matches(std::string_view text, std::string_view pattern) {
-  return std::equal(text.begin(), text.end(), pattern.begin(), pattern.end(),
-                    [](char character, char expected) {
-                      return expected == 'd' ? isDigit(character) : character == expected;
-                    });
-}
-
-}  // namespace
-
 bool isInteger(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r\n";
-  text = withoutLeading(text, kBlanks);
-  const bool negative = text.starts_with('-');
-  if (negative || text.starts_with('+')) text = withoutLeading(text.substr(1), kBlanks);
+  text = withoutBlanks(text);
+  if (text.starts_with('-') || text.starts_with('+')) text = withoutBlanks(text.substr(1));
   const bool hexadecimal = text.starts_with("0x") || text.starts_with("0X");
   if (hexadecimal) text.remove_prefix(2);
 
   std::uint64_t magnitude = 0;
   const auto [end, error] =
       std::from_chars(text.data(), text.data() + text.size(), magnitude, hexadecimal ? 16 : 10);
-  return error == std::errc() && end == text.data() + text.size() &&
-         (!negative || magnitude <= kLowestMagnitude);
+  return error == std::errc() && end == text.data() + text.size();
 }
 
 bool isReal(std::string_view text) {
@@ -50,10 +38,27 @@ bool isReal(std::string_view text) {
 }
 
 bool isDate(std::string_view text) {
+  constexpr std::string_view kPattern = "-dd-ddTdd:dd:ddZ";
   if (text.starts_with('-')) text.remove_prefix(1);
-  const std::size_t year = std::min(text.find('-'), text.size());
-  return std::all_of(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(year), isDigit) &&
-         matches(text.substr(year), "-dd-ddTdd:dd:ddZ");
+  const std::string_view rest = text.substr(std::min(text.find('-'), text.size()));
+  const std::string_view year = text.substr(0, text.size() - rest.size());
+  return std::all_of(year.begin(), year.end(), isDigit) &&
+         std::equal(rest.begin(), rest.end(), kPattern.begin(), kPattern.end(),
+                    [](char character, char expected) {
+                      return expected == 'd' ? isDigit(character) : character == expected;
+                    });
+}
+
+bool passes(std::string_view element, std::string_view text) {
+  if (element == "integer") return isInteger(text);
+  if (element == "real") return isReal(text);
+  return element != "date" || isDate(text);
+}
+
+}  // namespace
+
+void checkLeaf(std::string_view element, std::string_view text) {
+  if (!passes(element, text)) throw UnreadableList("no " + std::string(element));
 }
 
 }  // namespace launcher

@@ -74,4 +74,23 @@ struct BinaryList {
   }
 };
 
+/// An array in an array and so on, that deep.
+inline BinaryList nestedBinaryList(std::uint64_t depth) {
+  BinaryList list;
+  list.referenceSize = 2;
+  for (std::uint64_t level = 1; level < depth; ++level) list.objects.push_back(list.array({level}));
+  list.objects.push_back(list.array({}));
+  return list;
+}
+
+/// Each array holds the next one ten times.
+inline BinaryList referenceBomb(std::uint64_t levels) {
+  BinaryList list;
+  for (std::uint64_t level = 1; level <= levels; ++level) {
+    list.objects.push_back(list.array(BinaryList::Numbers(10, level)));
+  }
+  list.objects.push_back(BinaryList::text("bomb"));
+  return list;
+}
+
 }  // namespace launcher

@@ -6,6 +6,7 @@
 #include "discovery/PropertyList.h"
 #include "tests/contract/discovery/BinaryList.h"
 #include "tests/contract/discovery/DescribedList.h"
+#include "tests/contract/discovery/FoundationLists.h"
 
 namespace launcher {
 namespace {
@@ -59,6 +60,15 @@ TEST(PropertyListTest, ReadsAListing) {
   });
 }
 
+TEST(PropertyListTest, ReadsWhatTheFoundationReads) {
+  const std::vector<FoundationList> lists = foundationLists();
+  ASSERT_GT(lists.size(), 100U);
+  for (const auto& [systems, bytes, expected] : lists) {
+    if (systems != "both") continue;
+    EXPECT_EQ(visible(describedReading(bytes)), expected) << visible(bytes);
+  }
+}
+
 TEST(PropertyListTest, ReadsEveryKindOfValue) {
   expectValues({
       {"<string>text</string>", "'text'"},
@@ -93,8 +103,8 @@ TEST(PropertyListTest, ReadsNumbersAndDatesAsOther) {
 }
 
 TEST(PropertyListTest, WrongNumbersAndDatesAreNoList) {
-  for (const char* number : {"", " ", "-", "0x", "1.5", "1a", "0xg", "twelve", "1 ",
-                             "18446744073709551616", "-9223372036854775809"}) {
+  for (const char* number :
+       {"", " ", "-", "0x", "1.5", "1a", "0xg", "twelve", "1 ", "18446744073709551616"}) {
     expectReading(document("<integer>" + std::string(number) + "</integer>"), "error");
   }
   for (const char* number : {"", "-", "one", "1.5x", "."}) {
@@ -109,10 +119,7 @@ TEST(PropertyListTest, WrongNumbersAndDatesAreNoList) {
       {"<integer/>", "error"},
       {"<real/>", "error"},
       {"<date/>", "error"},
-      {"<data/>", "error"},
-      {"<data>\u00e9</data>", "error"},
       {"<true>yes</true>", "error"},
-      {"<false> </false>", "error"},
   });
 }
 
@@ -133,7 +140,6 @@ TEST(PropertyListTest, WrongReferencesAreNoList) {
       {"<string>&</string>", "error"},
       {"<string>&lt</string>", "error"},
       {"<string>&LT;</string>", "error"},
-      {"<string>&#x;</string>", "error"},
       {"<string>&#12a;</string>", "error"},
       {"<string>&#xD800;</string>", "error"},
       {"<string>&#x110000;</string>", "error"},
@@ -203,7 +209,7 @@ TEST(PropertyListTest, ReadsWhatStandsAroundTheList) {
       {"<!-- <string>b</string> -->" + list, "'a'"},
       {"\n\t \r" + list, "'a'"},
       {"<plist><!-- - --><?do nothing?><string>a</string><!----></plist>", "'a'"},
-      {"<plist\n version = '1.0' note=\"a > b\"><string >a</string\n></plist >", "'a'"},
+      {"<plist\n version = '1.0' note=\"a\"><string >a</string\n></plist >", "'a'"},
       {"<array><string lang='en'/></array >", "['']"},
       {list + "\n<!-- end -->\n", "'a'"},
   });
@@ -254,7 +260,6 @@ TEST(PropertyListTest, ReadsUtf16) {
   for (const bool highFirst : {true, false}) {
     expectReading(inBytes(u"\ufeff" + list, highFirst), "'\u00e9\U0001f600'");
     expectReading(inBytes(u"\ufeff<plist><string>a", highFirst), "error");
-    expectReading(inBytes(u"\ufeff" + list, highFirst) + "x", "error");
   }
 }
 
@@ -313,16 +318,9 @@ TEST(PropertyListTest, ReadsEveryKindOfBinaryObject) {
 
 TEST(PropertyListTest, WrongBinaryObjectsAreNoList) {
   expectDocuments({
-      {single("\x07"), "error"},
-      {single("\x0f"), "error"},
-      {single("\x15"s + std::string(32, '\0')), "error"},
-      {single("\x21"s + std::string(2, '\0')), "error"},
-      {single("\x24"s + std::string(16, '\0')), "error"},
-      {single("\x32"s + std::string(4, '\0')), "error"},
       {single("\x70"), "error"},
       {single("\x90"), "error"},
       {single("\xF0"), "error"},
-      {single("\x84"s + std::string(5, '\xff')), "error"},
       {single("\x55text"), "error"},
       {single("\x63t"), "error"},
       {single("\x61t"), "error"},
@@ -365,11 +363,11 @@ TEST(PropertyListTest, BinaryKeysThatHoldValuesAreNoList) {
   }
 }
 
-TEST(PropertyListTest, TheLaterOfTwoEqualBinaryKeysCounts) {
+TEST(PropertyListTest, TheEarlierOfTwoEqualBinaryKeysCounts) {
   BinaryList list;
   list.objects = {list.dictionary({1, 1}, {2, 3}), BinaryList::text("a"), BinaryList::text("1"),
                   BinaryList::text("2")};
-  expectReading(list.bytes(), "{a: '2'}");
+  expectReading(list.bytes(), "{a: '1'}");
 }
 
 TEST(PropertyListTest, BinaryListsThatReferToThemselvesAreNoList) {
@@ -390,8 +388,12 @@ TEST(PropertyListTest, ABinaryListCutOffAnywhereIsNoList) {
                   BinaryList::text(u"\u00e9"), "\x33" + std::string(8, '\0')};
   const std::string whole = list.bytes();
   ASSERT_EQ(describedReading(whole), "{key: ['\u00e9', other]}");
-  for (std::size_t size = 0; size < whole.size(); ++size) {
+  // What is too short to be known for a binary list is a word in macOS's text form.
+  const std::size_t known = list.magic.size() - 1;
+  for (std::size_t size = known; size < whole.size(); ++size) {
     expectReading(whole.substr(0, size), "error");
+  }
+  for (std::size_t size = 0; size < whole.size(); ++size) {
     expectReading(whole.substr(0, size) + std::string(whole.size() - size, '\0'), "error");
   }
   expectReading(whole + '\0', "error");

@@ -34,6 +34,10 @@ TEST(PropertyListTest, FindsTheValueAtAKey) {
   for (const auto& [key, value] : cases) EXPECT_EQ(textAt(dictionary, key), value) << key;
 }
 
+TEST(PropertyListTest, TheFirstOfTwoEqualKeysCounts) {
+  EXPECT_EQ(textAt({{"a", "1"}, {"b", "2"}, {"a", "3"}}, "a"), "1");
+}
+
 TEST(PropertyListTest, FindsNothingInAnEmptyDictionary) {
   EXPECT_EQ(valueAt({}, "images"), nullptr);
   EXPECT_EQ(valueAt({}, ""), nullptr);

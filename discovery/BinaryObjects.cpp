@@ -1,6 +1,6 @@
-#include "discovery/linux/BinaryObjects.h"
+#include "discovery/BinaryObjects.h"
 
-#include "discovery/linux/PropertyListForms.h"
+#include "discovery/PropertyListLimits.h"
 
 namespace launcher {
 namespace {
@@ -43,6 +43,12 @@ std::string_view BinaryObject::take(std::uint64_t count, std::uint64_t size) {
   return items;
 }
 
+std::uint64_t References::next() {
+  const std::uint64_t reference = bigEndian(bytes_.substr(0, size_));
+  bytes_.remove_prefix(size_);
+  return reference;
+}
+
 ObjectTable::ObjectTable(std::string_view bytes) {
   if (bytes.size() <= kHeaderSize + kTrailerSize) throw UnreadableList("the list is cut off");
   const std::size_t end = bytes.size() - kTrailerSize;
@@ -63,6 +69,10 @@ BinaryObject ObjectTable::object(std::uint64_t reference) const {
   const std::uint64_t offset = offsetAt(reference);
   if (offset < kHeaderSize) throw UnreadableList("an object lies outside");
   return BinaryObject(objects_.substr(offset));
+}
+
+References ObjectTable::takeReferences(BinaryObject& object, std::uint64_t count) const {
+  return {object.take(count, referenceSize_), referenceSize_};
 }
 
 void ObjectTable::check() const {

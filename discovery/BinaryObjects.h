@@ -50,6 +50,19 @@ class BinaryObject {
   std::uint64_t low_ = 0;
 };
 
+/// References to objects, consumed one by one.
+class References {
+ public:
+  References(std::string_view bytes, std::uint64_t size) : bytes_(bytes), size_(size) {}
+
+  bool empty() const { return bytes_.empty(); }
+  std::uint64_t next();
+
+ private:
+  std::string_view bytes_;
+  std::uint64_t size_;  ///< of one reference in bytes, from 1
+};
+
 /// The table of offsets, and the bytes before it, into which they point.
 class ObjectTable {
  public:
@@ -61,10 +74,10 @@ class ObjectTable {
   /// The index of the outermost value.
   std::uint64_t top() const { return top_; }
 
-  /// The size of a reference in bytes, from 1.
-  std::uint64_t referenceSize() const { return referenceSize_; }
-
   BinaryObject object(std::uint64_t reference) const;
+
+  /// The next so many references that an object holds.
+  References takeReferences(BinaryObject& object, std::uint64_t count) const;
 
  private:
   void check() const;

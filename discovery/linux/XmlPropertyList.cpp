@@ -1,0 +1,219 @@
+#include "discovery/linux/XmlPropertyList.h"
+
+#include <expat.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <exception>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "discovery/PropertyListLimits.h"
+#include "discovery/linux/XmlEncoding.h"
+#include "discovery/linux/XmlLeaves.h"
+
+namespace launcher {
+namespace {
+
+template <std::size_t size>
+bool isOneOf(std::string_view name, const std::array<std::string_view, size>& names) {
+  return std::find(names.begin(), names.end(), name) != names.end();
+}
+
+/// An element that is open, and what it holds so far.
+struct Element {
+  std::string name;
+  std::string text;
+  PropertyList::Array values;
+  std::optional<std::string> key;  ///< whose value is still to come
+  PropertyList::Dictionary entries;
+
+  /// Whether it holds characters, and no elements.
+  bool isText() const {
+    constexpr std::array<std::string_view, 6> kNames = {"string",  "key",  "data",
+                                                        "integer", "real", "date"};
+    return isOneOf(name, kNames);
+  }
+
+  bool holdsElements() const {
+    constexpr std::array<std::string_view, 3> kNames = {"plist", "array", "dict"};
+    return isOneOf(name, kNames);
+  }
+
+  bool isKnown() const { return isText() || holdsElements() || name == "true" || name == "false"; }
+
+  void add(std::string_view child, PropertyList value) {
+    if (name != "dict") {
+      values.push_back(std::move(value));
+    } else if (key) {
+      entries.emplace_back(*std::exchange(key, std::nullopt), std::move(value));
+    } else if (child == "key") {
+      key = *value.text();
+    } else {
+      throw UnreadableList("a value without a key");
+    }
+  }
+
+  PropertyList takeOnlyValue() {
+    if (values.size() != 1) throw UnreadableList("no value, or more than one");
+    return std::move(values.front());
+  }
+
+  PropertyList takeValue() {
+    if (name == "plist") return takeOnlyValue();
+    if (name == "array") return {std::move(values)};
+    if (name == "dict") return takeDictionary();
+    if (name == "string" || name == "key") return {std::move(text)};
+    checkLeaf(name, text);
+    return {};
+  }
+
+  /// In XML the last of two equal keys counts, in a dictionary the first.
+  PropertyList takeDictionary() {
+    if (key) throw UnreadableList("a key without a value");
+    std::reverse(entries.begin(), entries.end());
+    return {std::move(entries)};
+  }
+};
+
+/// What the parser finds, one thing after another, and the value that comes of it.
+class XmlReader {
+ public:
+  void begin(std::string_view name) {
+    if (!open_.back().holdsElements()) throw UnreadableList("an element in one that holds none");
+    checkDepth(static_cast<int>(open_.size()));
+    count(valueMemory(0));
+    open_.push_back({std::string(name), {}, {}, {}, {}});
+    if (!open_.back().isKnown()) throw UnreadableList("an unknown element");
+  }
+
+  void addText(std::string_view text) {
+    Element& element = open_.back();
+    if (element.isText()) {
+      count(text.size());
+      element.text += text;
+    } else if (text.find_first_not_of(" \t\r\n") != std::string_view::npos) {
+      throw UnreadableList("a text where elements belong");
+    }
+  }
+
+  void end() {
+    Element element = std::move(open_.back());
+    open_.pop_back();
+    open_.back().add(element.name, element.takeValue());
+  }
+
+  /// A comment or an instruction.
+  void interrupt() {
+    if (open_.back().isText()) throw UnreadableList("a comment in a text");
+  }
+
+  PropertyList takeValue() { return open_.back().takeOnlyValue(); }
+
+ private:
+  void count(std::size_t memory) {
+    memory_ += memory;
+    checkMemory(memory_);
+  }
+
+  std::vector<Element> open_{{"plist", {}, {}, {}, {}}};  ///< the first one is the document
+  std::size_t memory_ = 0;
+};
+
+void* frugalRealloc(void* block, std::size_t size) {
+  constexpr std::size_t kLargestBlock = 1U << 20U;
+  return size > kLargestBlock ? nullptr : std::realloc(block, size);
+}
+
+/// What the parser itself has to keep is small, or made to be large: attributes without end, a
+/// comment of megabytes. Then it tells of a lack of memory.
+constexpr XML_Memory_Handling_Suite kFrugalMemory = {
+    [](std::size_t size) { return frugalRealloc(nullptr, size); }, frugalRealloc, std::free};
+
+/// Lets a reader see what the parser finds. The parser is C, which no exception may pass.
+class Parsing {
+ public:
+  Parsing() {
+    XML_SetUserData(parser_.get(), this);
+    XML_SetElementHandler(
+        parser_.get(),
+        [](void* self, const XML_Char* name, const XML_Char**) {
+          handle(self, [name](XmlReader& reader) { reader.begin(name); });
+        },
+        [](void* self, const XML_Char*) { handle(self, &XmlReader::end); });
+    XML_SetCharacterDataHandler(parser_.get(), [](void* self, const XML_Char* text, int size) {
+      handle(self, [&](XmlReader& reader) {
+        reader.addText({text, static_cast<std::size_t>(size)});
+      });
+    });
+    XML_SetCommentHandler(parser_.get(),
+                          [](void* self, const XML_Char*) { handle(self, &XmlReader::interrupt); });
+    XML_SetProcessingInstructionHandler(
+        parser_.get(),
+        [](void* self, const XML_Char*, const XML_Char*) { handle(self, &XmlReader::interrupt); });
+    refuseEntities();
+  }
+
+  /// In pieces, since the parser copies what it is given.
+  PropertyList read(std::string_view document) {
+    constexpr std::size_t kPiece = 64U << 10U;
+    do {
+      const std::string_view piece = document.substr(0, kPiece);
+      document.remove_prefix(piece.size());
+      parse(piece, document.empty());
+    } while (!document.empty());
+    return reader_.takeValue();
+  }
+
+ private:
+  void parse(std::string_view piece, bool isLast) {
+    const XML_Status status =
+        XML_Parse(parser_.get(), piece.data(), static_cast<int>(piece.size()), isLast ? 1 : 0);
+    if (failure_) std::rethrow_exception(failure_);
+    if (status == XML_STATUS_OK) return;
+    throw UnreadableList(XML_ErrorString(XML_GetErrorCode(parser_.get())));
+  }
+
+  void refuseEntities() {
+    XML_SetStartDoctypeDeclHandler(parser_.get(), [](void* self, const XML_Char*, const XML_Char*,
+                                                     const XML_Char*, int declares) {
+      handle(self, [declares](XmlReader&) {
+        if (declares != 0) throw UnreadableList("a document type with declarations");
+      });
+    });
+    XML_SetSkippedEntityHandler(parser_.get(), [](void* self, const XML_Char*, int) {
+      handle(self, [](XmlReader&) { throw UnreadableList("an unknown entity"); });
+    });
+  }
+
+  template <class Action>
+  static void handle(void* self, Action action) {
+    Parsing& parsing = *static_cast<Parsing*>(self);
+    if (parsing.failure_) return;
+    try {
+      std::invoke(action, parsing.reader_);
+    } catch (...) {
+      parsing.failure_ = std::current_exception();
+      XML_StopParser(parsing.parser_.get(), XML_FALSE);
+    }
+  }
+
+  XmlReader reader_;
+  std::exception_ptr failure_;
+  std::unique_ptr<XML_ParserStruct, void (*)(XML_Parser)> parser_{
+      XML_ParserCreate_MM("UTF-8", &kFrugalMemory, nullptr), XML_ParserFree};
+};
+
+}  // namespace
+
+PropertyList readXmlPropertyList(std::string_view bytes) {
+  std::string converted;
+  return Parsing().read(inUtf8(bytes, converted));
+}
+
+}  // namespace launcher
