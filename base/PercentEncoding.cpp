@@ -3,7 +3,6 @@
 namespace launcher {
 namespace {
 
-constexpr std::string_view kHexDigits = "0123456789ABCDEFabcdef";
 constexpr ByteSet kHexBytes{kHexDigits};
 
 unsigned hexValue(char digit) {
@@ -27,6 +26,18 @@ std::string escaped(std::string_view text, const ByteSet& kept) {
       const auto value = static_cast<unsigned char>(byte);
       result.append({'%', kHexDigits[value >> 4U], kHexDigits[value & 15U]});
     }
+  }
+  return result;
+}
+
+std::string escapedKeepingEscapes(std::string_view text, const ByteSet& kept) {
+  std::string result;
+  result.reserve(text.size());
+  while (!text.empty()) {
+    const bool escape = beginsWithEscape(text);
+    const std::string_view piece = text.substr(0, escape ? 3 : 1);
+    result += escape ? std::string(piece) : escaped(piece, kept);
+    text.remove_prefix(piece.size());
   }
   return result;
 }

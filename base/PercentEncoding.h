@@ -25,6 +25,7 @@ class ByteSet {
 
 inline constexpr std::string_view kLetters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
 inline constexpr std::string_view kDigits = "0123456789";
+inline constexpr std::string_view kHexDigits = "0123456789ABCDEFabcdef";
 
 /// Whether the text begins with "%" and two hexadecimal digits.
 bool beginsWithEscape(std::string_view text);
@@ -33,6 +34,11 @@ bool beginsWithEscape(std::string_view text);
 ///
 ///     escaped("a b", {"ab"})   -> "a%20b"
 std::string escaped(std::string_view text, const ByteSet& kept);
+
+/// The same, but escapes that the text holds already are kept.
+///
+///     escapedKeepingEscapes("a b%20%", {"ab"})   -> "a%20b%20%25"
+std::string escapedKeepingEscapes(std::string_view text, const ByteSet& kept);
 
 /// The bytes that a text stands for. A "%" that begins no escape stands for itself.
 ///

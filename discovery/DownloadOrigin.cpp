@@ -39,7 +39,7 @@ std::optional<Url> firstAddress(std::string_view bytes) {
   const PropertyListReading reading = readPropertyList(bytes);
   if (!reading.value) return std::nullopt;
   const std::string* text = firstText(*reading.value);
-  return text == nullptr ? std::nullopt : Url::parse(*text);
+  return text == nullptr ? std::nullopt : Url::repaired(*text);
 }
 
 }  // namespace

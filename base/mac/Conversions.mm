@@ -15,7 +15,7 @@ std::string toStdString(NSString* text) {
 
 std::optional<Url> toUrl(NSURL* url) {
   if (url == nil) return std::nullopt;
-  return Url::parse(toStdString([url absoluteString]));
+  return Url::repaired(toStdString([url absoluteString]));
 }
 
 NSString* toNSString(std::string_view text) { return toNSString(std::u16string_view(utf16(text))); }

@@ -1,6 +1,7 @@
 #include <climits>
 
 #include "base/Url.h"
+#include "base/UrlSyntax.h"
 #import "base/mac/Conversions.h"
 
 namespace launcher {
@@ -15,13 +16,11 @@ std::optional<std::string> present(NSString* text) {
 
 }  // namespace
 
-/// Newer systems repair a text with forbidden characters instead of refusing it: what has not kept
-/// its form is refused here.
+/// The systems differ in what they take, and newer ones repair what older ones refuse: here they
+/// are only asked about what all of them take as it stands.
 std::optional<Url> Url::parse(std::string_view text) {
   @autoreleasepool {
-    if (text.empty()) return std::nullopt;
-    NSURL* url = platformUrl(text);
-    if (url == nil || toStdString([url absoluteString]) != text) return std::nullopt;
+    if (!isUrl(text) || platformUrl(text) == nil) return std::nullopt;
     return Url(std::string(text));
   }
 }
@@ -53,11 +52,11 @@ std::string Url::filePath() const {
   }
 }
 
-/// A URL without a path stays as it is; the platform would append "../" to it.
+/// A URL without a path or at its root stays as it is; older systems append "../" to it.
 Url Url::deletingLastPathComponent() const {
   @autoreleasepool {
     NSURL* url = platformUrl(text_);
-    if ([[url path] length] == 0) return *this;
+    if ([[url path] length] <= 1) return *this;
     NSURL* shortened = [url URLByDeletingLastPathComponent];
     return shortened == nil ? *this : Url(toStdString([shortened absoluteString]));
   }

@@ -33,7 +33,7 @@ static std::optional<std::string> expectedOf(std::string_view bytes) {
   for (const PropertyList& item : *list->array()) {
     if (item.text() == nullptr) return std::nullopt;
   }
-  const auto url = Url::parse(*list->array()->front().text());
+  const auto url = Url::repaired(*list->array()->front().text());
   if (!url) return std::nullopt;
   return url->deletingLastPathComponent().absoluteString();
 }

@@ -31,7 +31,17 @@ static void checkFile(std::string_view path) {
   require(!plain || file.filePath() == path, "a path comes back");
 }
 
+static void checkRepair(std::string_view text) {
+  const auto url = Url::parse(text);
+  const auto repaired = Url::repaired(text);
+  require(!url || repaired == url, "what is a URL stays as it is");
+  if (!repaired || url) return;
+  require(isReadAgain(*repaired), "what is repaired is a URL");
+  require(repaired->host() && !repaired->host()->empty(), "what is repaired has a host");
+}
+
 FUZZ_TARGET(text) {
+  checkRepair(text);
   if (const auto url = Url::parse(text)) {
     require(url->absoluteString() == text, "a URL keeps its text");
     require(isReadAgain(*url), "a URL is read again");

@@ -2,29 +2,21 @@
 
 #include <string>
 
-#include "base/PercentEncoding.h"
 #include "base/Unicode.h"
+#include "base/UrlSyntax.h"
 #include "net/linux/links/HostName.h"
 
 namespace launcher::links {
 namespace {
 
-constexpr ByteSet kUrlBytes{kLetters, kDigits, "-._~!$&'()*+,;=:@/?[]"};
-
-/// A "%" that begins no escape and a "#" after the first are escaped too.
-std::string escapedPart(std::u16string_view part) {
-  const std::string text = utf8(part);
-  const std::string_view all = text;
-  std::string result;
-  bool fragmentSeen = false;
-  for (std::size_t at = 0; at < all.size(); ++at) {
-    const std::string_view byte = all.substr(at, 1);
-    const bool fragment = byte == "#" && !fragmentSeen;
-    const bool kept = fragment || beginsWithEscape(all.substr(at));
-    fragmentSeen = fragmentSeen || fragment;
-    result += kept ? std::string(byte) : escaped(byte, kUrlBytes);
-  }
-  return result;
+/// What stands before a host: a scheme, credentials and the last "@", each where there is one.
+std::string escapedFront(std::string_view front) {
+  if (!front.ends_with('@')) return std::string(front);
+  const std::size_t slashes = front.find("//");
+  const std::size_t begin = slashes == std::string_view::npos ? front.rfind(':') + 1 : slashes + 2;
+  const std::string_view credentials = front.substr(begin, front.size() - begin - 1);
+  return std::string(front.substr(0, begin)) + escapedKeepingEscapes(credentials, kUserInfoBytes) +
+         "@";
 }
 
 std::optional<Url> urlAsItStands(std::u16string_view text, const Link& link) {
@@ -37,9 +29,9 @@ std::optional<Url> urlWithEscapes(std::u16string_view text, const Link& link) {
   const auto host = asciiHost(text.substr(link.hostBegin, link.hostEnd - link.hostBegin));
   if (!host) return std::nullopt;
   std::string url(link.scheme);
-  url += escapedPart(text.substr(link.begin, link.hostBegin - link.begin));
+  url += escapedFront(utf8(text.substr(link.begin, link.hostBegin - link.begin)));
   url += *host;
-  url += escapedPart(text.substr(link.hostEnd, link.end - link.hostEnd));
+  url += escapedTail(utf8(text.substr(link.hostEnd, link.end - link.hostEnd)));
   return Url::parse(url);
 }
 

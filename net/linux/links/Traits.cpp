@@ -5,7 +5,7 @@
 #include <array>
 
 #include "base/CodePoints.h"
-#include "base/PercentEncoding.h"
+#include "base/UrlSyntax.h"
 
 namespace launcher::links {
 namespace {
@@ -25,8 +25,11 @@ constexpr AsciiTraits asciiTraits() {
   give(table, "+-.", inScheme);
   give(table, "+-._", inWord);
   give(table, "-_", inLabel);
-  give(table, "-._~!$&'()*+,;=:%", inUserInfo);
-  give(table, "-._~!$&'()*+,;=:%@/?#[]", inTail);
+  for (const std::string_view marks : {kUnreservedMarks, kSubDelimiters}) {
+    give(table, marks, inUserInfo | inTail);
+  }
+  give(table, ":%", inUserInfo | inTail);
+  give(table, "@/?#[]", inTail);
   give(table, "-_~$&)*+=%@/#]", atEnd);
   return table;
 }

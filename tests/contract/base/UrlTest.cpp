@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/Url.h"
+#include "tests/contract/base/FoundationUrls.h"
 
 namespace launcher {
 namespace {
@@ -23,7 +24,7 @@ TEST(UrlTest, KeepsTheFormOfAValidText) {
       "https://server.example",
       "https://server.example/",
       "HTTPS://Server.Example/A",
-      "http://h:8080/D/F?q=1&r[]=2#top",
+      "http://h:8080/D/F?q=1&r=2#top",
       "http://u:p@h/",
       "http://[::1]:8443/x",
       "http://h/a%20b%2f",
@@ -69,6 +70,23 @@ TEST(UrlTest, RefusesWhatIsNoUrl) {
       "https://h/a^b",
       "https://h/a`b",
       "https://h/#a#b",
+      "https://h/[a]",
+      "https://h/?a[]",
+      "https://h/#[a]",
+      "https://u@v@h/",
+      "https://h:80a/",
+      "https://h:-1/",
+      "https://::1/",
+      "https://[::1/",
+      "https://[]/",
+      "https://[h]/",
+      "https://[::1]a/",
+      "https://[::1%en0]/",
+      "https://[::1%25]/",
+      "https://h\\a/",
+      "1a:b",
+      "-http://h",
+      ":a",
   };
   for (const std::string_view text : kInvalid) {
     EXPECT_EQ(Url::parse(text), std::nullopt) << shown(text);
@@ -82,10 +100,10 @@ struct PartCase {
 
 TEST(UrlTest, GivesTheSchemeAsTyped) {
   const PartCase kCases[] = {
-      {"https://h", "https"},    {"HtTp://h", "HtTp"},   {"mailto:a@b", "mailto"},
-      {"a+b-c.9:x", "a+b-c.9"},  {"http:", "http"},      {"1a:b", std::nullopt},
-      {"//h/a:b", std::nullopt}, {"/a:b", std::nullopt}, {"h/a:b", std::nullopt},
-      {"a", std::nullopt},       {"?a:b", std::nullopt},
+      {"https://h", "https"},   {"HtTp://h", "HtTp"},    {"mailto:a@b", "mailto"},
+      {"a+b-c.9:x", "a+b-c.9"}, {"http:", "http"},       {"//h/a:b", std::nullopt},
+      {"/a:b", std::nullopt},   {"h/a:b", std::nullopt}, {"a", std::nullopt},
+      {"?a:b", std::nullopt},
   };
   for (const auto& [url, part] : kCases) EXPECT_EQ(urlOf(url).scheme(), part) << shown(url);
 }
@@ -99,7 +117,6 @@ TEST(UrlTest, GivesTheHostAlone) {
       {"https://server.example?q", "server.example"},
       {"https://server.example#f", "server.example"},
       {"https://u:p@server.example:1/a@b", "server.example"},
-      {"https://u@v@server.example", "server.example"},
       {"https://10.0.0.1/", "10.0.0.1"},
       {"https://[::1]", "::1"},
       {"https://[::1]:8443/x", "::1"},
@@ -110,8 +127,8 @@ TEST(UrlTest, GivesTheHostAlone) {
       {"file:///a", std::nullopt},
       {"https:///a", std::nullopt},
       {"https://", std::nullopt},
-      {"https://:80/", std::nullopt},
-      {"https://u@/", std::nullopt},
+      {"https://:80/", ""},
+      {"https://u@/", ""},
       {"https://%FF/", std::nullopt},
       {"https:", std::nullopt},
       {"mailto:a@b", std::nullopt},
@@ -133,9 +150,9 @@ TEST(UrlTest, RemovesTheLastPathComponent) {
       {"https://h/dir", "https://h/"},
       {"https://h/dir/", "https://h/"},
       {"https://h/a/b/", "https://h/a/"},
-      {"https://h/a/b///", "https://h/a/"},
-      {"https://h/a//b", "https://h/a//"},
       {"https://h", "https://h"},
+      {"https://h/", "https://h/"},
+      {"https://h/?q", "https://h/?q"},
       {"https://h?q", "https://h?q"},
       {"https://h#f", "https://h#f"},
       {"https://h/D/F?q=/x/y", "https://h/D/?q=/x/y"},
@@ -148,9 +165,6 @@ TEST(UrlTest, RemovesTheLastPathComponent) {
       {"https://h/a%2Fb", "https://h/"},
       {"https://h/a%2Fb/c", "https://h/a%2Fb/"},
       {"HTTPS://H/D/F", "HTTPS://H/D/"},
-      {"https://h/a/..", "https://h/a/../../"},
-      {"https://h/a/../", "https://h/a/../../"},
-      {"https://h/a/.", "https://h/a/../"},
       {"https://h/../a", "https://h/../"},
       {"https://h/...", "https://h/"},
       {"file:///usr/local/bin", "file:///usr/local/"},
@@ -158,18 +172,57 @@ TEST(UrlTest, RemovesTheLastPathComponent) {
       {"file:///Volumes", "file:///"},
       {"file:/a/b", "file:/a/"},
       {"//host/a", "//host/"},
-      {"//host", "//host"},
       {"/a/b", "/a/"},
       {"/a", "/"},
       {"a/b", "a/"},
       {"a", "./"},
       {"a/", "./"},
-      {"?q", "?q"},
-      {"mailto:a@b", "mailto:a@b"},
-      {"mailto:a/b", "mailto:a/b"},
   };
   for (const auto& [url, result] : kCases) {
     EXPECT_EQ(urlOf(url).deletingLastPathComponent().absoluteString(), result) << shown(url);
+  }
+}
+
+std::string_view orAbsent(const std::optional<std::string>& text) { return text ? *text : kAbsent; }
+
+TEST(UrlTest, AnswersAsFoundationDoes) {
+  for (const auto& [text, answer, scheme, host] : kUrlAnswers) {
+    const std::optional<Url> url = Url::repaired(text);
+    ASSERT_TRUE(url) << shown(text);
+    EXPECT_EQ(url->absoluteString(), answer) << shown(text);
+    EXPECT_EQ(orAbsent(url->scheme()), scheme) << shown(text);
+    EXPECT_EQ(orAbsent(url->host()), host) << shown(text);
+    EXPECT_EQ(Url::parse(text).has_value(), text == answer) << shown(text);
+  }
+  for (const std::string_view text : kNoUrls) {
+    EXPECT_EQ(Url::repaired(text), std::nullopt) << shown(text);
+  }
+  for (const auto& [text, folder] : kFolderAnswers) {
+    EXPECT_EQ(Url::repaired(text)->deletingLastPathComponent().absoluteString(), folder)
+        << shown(text);
+  }
+}
+
+TEST(UrlTest, RepairsWhatFollowsTheHostOfAWebAddressAlone) {
+  constexpr TextCase kCases[] = {
+      {"http://h/a b", "http://h/a%20b"},
+      {"https://u:p@h:80/a b", "https://u:p@h:80/a%20b"},
+      {"https://[::1]:80/[a]", "https://[::1]:80/%5Ba%5D"},
+      {"https://h?a b", "https://h?a%20b"},
+      {"https://h#a b#c", "https://h#a%20b%23c"},
+      {"https://h/%41 %4g", "https://h/%41%20%254g"},
+      {"https://h/\xff", "https://h/%FF"},
+  };
+  for (const auto& [text, url] : kCases) {
+    const std::optional<Url> repaired = Url::repaired(text);
+    ASSERT_TRUE(repaired) << shown(text);
+    EXPECT_EQ(repaired->absoluteString(), url) << shown(text);
+  }
+  for (const std::string_view text :
+       {"https://h ", "https:// h/", "https://h\\/a b", "https://u v@h/a b", "https://h%/a b",
+        "https://h:x/a b", "https:///a b", "https://u@/a b", "https://:80/a b", "https:a b",
+        "HTTPS://h/a b", "ftp://h/a b", "httpx://h/a b", "//h/a b", "/a b"}) {
+    EXPECT_EQ(Url::repaired(text), std::nullopt) << shown(text);
   }
 }
 

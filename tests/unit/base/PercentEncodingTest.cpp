@@ -14,6 +14,13 @@ TEST(PercentEncodingTest, EscapesEveryByteOutsideTheSet) {
   EXPECT_EQ(escaped("a b%\0\xff"sv, kKept), "a%20b%25%00%FF");
 }
 
+TEST(PercentEncodingTest, KeepsTheEscapesThatAreThere) {
+  constexpr ByteSet kKept{kLetters};
+  EXPECT_EQ(escapedKeepingEscapes("", kKept), "");
+  EXPECT_EQ(escapedKeepingEscapes("a b%20%2f%", kKept), "a%20b%20%2f%25");
+  EXPECT_EQ(escapedKeepingEscapes("%2%20%zz", kKept), "%25%32%20%25zz");
+}
+
 TEST(PercentEncodingTest, ReadsEscapesOfEitherCase) {
   EXPECT_EQ(unescaped(""), "");
   EXPECT_EQ(unescaped("a%20b"), "a b");

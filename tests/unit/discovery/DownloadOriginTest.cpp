@@ -54,6 +54,9 @@ TEST_F(DownloadOriginTest, RemovesTheLastPathComponentOfTheFirstAddress) {
       {"https://h/F", "https://h/"},
       {"https://h/D/F?a=b", "https://h/D/?a=b"},
       {"HTTPS://H/D/F", "HTTPS://H/D/"},
+      {"https://h/D/a b", "https://h/D/"},
+      {"https://h/D/F?a=[b|c]", "https://h/D/?a=%5Bb%7Cc%5D"},
+      {"https://h/\u00e9/F", "https://h/%C3%A9/"},
   };
   for (const auto& [address, location] : cases) EXPECT_EQ(extract(listOf(address)), location);
 }
@@ -158,7 +161,8 @@ TEST_F(DownloadOriginTest, AnAbsurdSizeGivesNothing) {
 }
 
 TEST_F(DownloadOriginTest, AddressesThatAreNoUrlGiveNothing) {
-  for (const char* address : {"", " ", "https://h/a b", "https://h/D/F\n", "https://h/\u00e9/F"}) {
+  for (const char* address :
+       {"", " ", "no address", "https://h /F", "https://b\u00fccher.example/F", "ftp://h/a b"}) {
     EXPECT_EQ(extract(listOf(address)), std::nullopt) << address;
   }
 }

@@ -1,0 +1,25 @@
+#include "base/Url.h"
+
+#include "base/UrlSyntax.h"
+
+namespace launcher {
+namespace {
+
+/// A web address with a host. Browsers leave characters that no URL holds in what follows one.
+bool isWebAddress(std::string_view text) {
+  if (!text.starts_with("http://") && !text.starts_with("https://")) return false;
+  return !hostIn(*splitUrl(text).authority).empty();
+}
+
+}  // namespace
+
+std::optional<Url> Url::repaired(std::string_view text) {
+  if (auto url = parse(text)) return url;
+  if (!isWebAddress(text)) return std::nullopt;
+  const UrlParts parts = splitUrl(text);
+  const std::size_t pathAndTail = parts.path.size() + parts.tail.size();
+  const std::string_view front = text.substr(0, text.size() - pathAndTail);
+  return parse(std::string(front) + escapedTail(text.substr(front.size())));
+}
+
+}  // namespace launcher
