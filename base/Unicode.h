@@ -33,6 +33,9 @@ std::string repairedUtf8(std::string_view bytes);
 /// Whether all bytes are below 0x80.
 bool isAscii(std::string_view text);
 
+/// The text with its ASCII capitals as small letters; other characters stay.
+std::string asciiLowerCase(std::string_view text);
+
 /// Whether the bytes are well-formed UTF-8.
 bool isUtf8(std::string_view bytes);
 

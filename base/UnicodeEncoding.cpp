@@ -82,6 +82,14 @@ bool isAscii(std::string_view text) {
                      [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
 
+std::string asciiLowerCase(std::string_view text) {
+  std::string lower(text);
+  for (char& byte : lower) {
+    if (byte >= 'A' && byte <= 'Z') byte = static_cast<char>(byte - 'A' + 'a');
+  }
+  return lower;
+}
+
 bool isUtf8(std::string_view bytes) {
   while (!bytes.empty()) {
     const CodePoint point = firstCodePoint(bytes);

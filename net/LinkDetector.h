@@ -21,8 +21,9 @@ class LinkDetector {
  public:
   virtual ~LinkDetector() = default;
 
-  /// The first link of `text`, or absent where it does not lie within the first `length` UTF-16
-  /// units, and where the platform cannot make a detector. `length` is at most the text's own.
+  /// The first link of `text`, if it lies within the first `length` UTF-16 units, which are at most
+  /// the text's own. A link that goes on behind them counts as none, rather than as cut short.
+  /// Absent where there is none, and where the platform cannot make a detector.
   ///
   ///     "see https://h.example/a."   -> https://h.example/a   at 4, 19 units
   ///     "h.example.com"              -> http://h.example.com  at 0, 13 units

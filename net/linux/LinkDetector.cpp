@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Unicode.h"
 #include "net/linux/links/Authority.h"
 #include "net/linux/links/HostName.h"
 #include "net/linux/links/Link.h"
@@ -27,19 +28,12 @@ Word withoutFullStops(std::u16string_view text, Word word) {
   return {word.begin, last == std::u16string_view::npos ? word.begin : word.begin + last + 1};
 }
 
-bool equalsIgnoringCase(std::u16string_view text, std::u16string_view lowerCase) {
-  return std::equal(text.begin(), text.end(), lowerCase.begin(), lowerCase.end(),
-                    [](char16_t a, char16_t b) { return (a | 0x20) == b; });
-}
-
-/// The end of a word that can be a scheme: letters, digits and "+-." after a letter, two or more.
+/// Where the scheme begins that a word ends with: a letter, then letters, digits and "+-.". A
+/// single letter is a drive's.
 std::optional<std::size_t> schemeBegin(std::u16string_view text, Word word) {
   std::size_t begin = word.end;
   while (begin > word.begin && has(text[begin - 1], inScheme)) --begin;
-  const auto isLetter = [](char16_t unit) {
-    return (unit | 0x20) >= u'a' && (unit | 0x20) <= u'z';
-  };
-  while (begin < word.end && !isLetter(text[begin])) ++begin;
+  while (begin < word.end && !isAsciiLetter(text[begin])) ++begin;
   if (word.end - begin < 2) return std::nullopt;
   return begin;
 }
@@ -68,7 +62,7 @@ std::optional<Link> mailAddress(std::u16string_view text, Word word) {
 
 /// "mailto:name@h.com?subject=s": the word is the scheme.
 std::optional<LinkMatch> mailtoLink(std::u16string_view text, Word word) {
-  if (!equalsIgnoringCase(word.in(text), u"mailto")) return std::nullopt;
+  if (asciiLowerCase(utf8(word.in(text))) != "mailto") return std::nullopt;
   const std::size_t nameBegin = word.end + 1;
   const auto address = mailAddress(text, {nameBegin, skip(text, nameBegin, inWord)});
   if (!address || address->begin != nameBegin) return std::nullopt;
@@ -94,14 +88,24 @@ std::optional<LinkMatch> domainLink(std::u16string_view text, Word word) {
                         skipTail(text, skipPort(text, host.end))});
 }
 
+bool isBeforeAuthority(std::u16string_view text, Word word) {
+  return text.substr(word.end, 3) == u"://";
+}
+
 std::optional<LinkMatch> linkAt(std::u16string_view text, Word word) {
-  const std::u16string_view after = text.substr(word.end, 3);
-  if (after == u"://") return schemeLink(text, word);
+  const std::u16string_view after = text.substr(word.end, 1);
+  if (isBeforeAuthority(text, word)) return schemeLink(text, word);
   if (after.starts_with(u'@')) return mailLink(text, word);
   if (after.starts_with(u':')) {
     if (auto match = mailtoLink(text, word)) return match;
   }
   return domainLink(text, word);
+}
+
+/// Where the search goes on behind a word that is no link. After a "scheme://" that leads nowhere
+/// whatever follows without a blank is part of the same failed address, not a link of its own.
+std::size_t endOfRefused(std::u16string_view text, Word word) {
+  return isBeforeAuthority(text, word) ? skipToBlank(text, word.end) : word.end;
 }
 
 std::optional<LinkMatch> firstLink(std::u16string_view text, std::size_t length) {
@@ -111,7 +115,7 @@ std::optional<LinkMatch> firstLink(std::u16string_view text, std::size_t length)
       ++at;
     } else {
       if (auto match = linkAt(text, word)) return match;
-      at = word.end;
+      at = endOfRefused(text, word);
     }
   }
   return std::nullopt;

@@ -1,6 +1,5 @@
 #include "net/linux/links/HostName.h"
 
-#include <libpsl.h>
 #include <unicode/uidna.h>
 
 #include <algorithm>
@@ -8,6 +7,7 @@
 #include <cstdint>
 
 #include "base/PercentEncoding.h"
+#include "base/Unicode.h"
 
 namespace launcher::links {
 namespace {
@@ -17,7 +17,7 @@ constexpr std::size_t kLongestLabel = 63;
 constexpr ByteSet kDomainBytes{kLetters, kDigits, "-."};
 constexpr ByteSet kHostBytes{kLetters, kDigits, "-._"};
 
-bool isAscii(std::u16string_view text) {
+bool isAsciiText(std::u16string_view text) {
   return std::all_of(text.begin(), text.end(), [](char16_t unit) { return unit < 0x80; });
 }
 
@@ -35,8 +35,8 @@ const UIDNA* punycode() {
   return converter;
 }
 
-/// A name that is too long has no such form.
-/// What becomes of a symbol may hold separators, so the result is looked at.
+/// Absent where the name is too long. What becomes of a symbol may hold separators, so the result
+/// is looked at.
 std::optional<std::string> punycodeOf(std::u16string_view host) {
   if (host.size() > kLongestHost || punycode() == nullptr) return std::nullopt;
   std::array<char16_t, kLongestHost + 1> converted{};
@@ -66,31 +66,25 @@ bool consistsOfLabels(std::string_view domain) {
   }
 }
 
-std::string lowerCase(std::string_view text) {
-  std::string lower(text);
-  for (char& byte : lower) {
-    if (byte >= 'A' && byte <= 'Z') byte = static_cast<char>(byte - 'A' + 'a');
-  }
-  return lower;
-}
+/// In alphabetical order.
+constexpr std::string_view kTopLevelDomains[] = {
+#include "TopLevelDomains.inc"
+};
 
-/// None is shorter than two letters or begins with a digit, which spares "3.14" the look-up.
 bool isTopLevelDomain(std::string_view label) {
-  if (label.size() < 2 || kDigits.find(label.front()) != std::string_view::npos) return false;
-  return psl_is_public_suffix2(psl_builtin(), lowerCase(label).c_str(),
-                               PSL_TYPE_ICANN | PSL_TYPE_NO_STAR_RULE) != 0;
+  return std::ranges::binary_search(kTopLevelDomains, asciiLowerCase(label));
 }
 
 bool beginsWithWww(std::string_view domain) {
   const std::size_t dot = domain.find('.');
-  return lowerCase(domain.substr(0, dot)) == "www" &&
+  return asciiLowerCase(domain.substr(0, dot)) == "www" &&
          domain.find('.', dot + 1) != std::string_view::npos;
 }
 
 }  // namespace
 
 std::optional<std::string> asciiHost(std::u16string_view host) {
-  if (isAscii(host)) return std::string(host.begin(), host.end());
+  if (isAsciiText(host)) return std::string(host.begin(), host.end());
   return punycodeOf(host);
 }
 

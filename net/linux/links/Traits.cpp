@@ -83,4 +83,11 @@ std::size_t skip(std::u16string_view text, std::size_t at, Trait trait) {
   return at;
 }
 
+std::size_t skipToBlank(std::u16string_view text, std::size_t at) {
+  // All blanks and controls are of one unit.
+  const auto isBlank = [](char16_t unit) { return u_isUWhiteSpace(unit) || u_iscntrl(unit); };
+  while (at < text.size() && !isBlank(text[at])) ++at;
+  return at;
+}
+
 }  // namespace launcher::links

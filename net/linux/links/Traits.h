@@ -24,6 +24,13 @@ bool has(char32_t point, Trait trait);
 ///     skip(u"a.b/c", 0, inWord)   -> 3
 std::size_t skip(std::u16string_view text, std::size_t at, Trait trait);
 
+/// The place of the next blank or control character, or the text's end.
+std::size_t skipToBlank(std::u16string_view text, std::size_t at);
+
+inline bool isAsciiLetter(char16_t unit) {
+  return (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z');
+}
+
 /// Whether the unit at a place, which may lie behind the text, is this one.
 inline bool unitIs(std::u16string_view text, std::size_t at, char16_t unit) {
   return at < text.size() && text[at] == unit;

@@ -118,6 +118,15 @@ TEST(LinkDetectorTest, SeesOnlyTheGivenLength) {
   EXPECT_EQ(foundLink(kText, kText.size()), "https://h.example at 5+17");
 }
 
+TEST(LinkDetectorTest, ALinkThatCrossesTheEndOfTheRangeIsNone) {
+  constexpr std::u16string_view kText = u"https://h.example/path https://i";
+  EXPECT_EQ(foundLink(kText, 8), "none");
+  EXPECT_EQ(foundLink(kText, 17), "none");
+  EXPECT_EQ(foundLink(kText, 21), "none");
+  EXPECT_EQ(foundLink(kText, 22), "https://h.example/path at 0+22");
+  EXPECT_EQ(foundLink(kText, 23), "https://h.example/path at 0+22");
+}
+
 struct CheckCase {
   std::string_view text;
   bool valid;
@@ -128,6 +137,12 @@ struct CheckCase {
 std::string checked(std::string_view text, InsecureScheme insecure) {
   const std::optional<Url> url = validURLAddress(text, insecure, *makeLinkDetector());
   return url ? url->absoluteString() : "absent";
+}
+
+void expectChecked(const CheckCase& check) {
+  EXPECT_EQ(isValidURLAddress(check.text, *makeLinkDetector()), check.valid) << check.text;
+  EXPECT_EQ(checked(check.text, InsecureScheme::refused), check.secure) << check.text;
+  EXPECT_EQ(checked(check.text, InsecureScheme::allowed), check.insecure) << check.text;
 }
 
 TEST(LinkDetectorTest, ServesTheAddressChecks) {
@@ -146,11 +161,28 @@ TEST(LinkDetectorTest, ServesTheAddressChecks) {
       {"name@example.com", false, "absent", "absent"},
       {"\U0001f600 word https://h.example word", false, "https://h.example", "https://h.example"},
   };
-  for (const auto& [text, valid, secure, insecure] : kCases) {
-    EXPECT_EQ(isValidURLAddress(text, *makeLinkDetector()), valid) << text;
-    EXPECT_EQ(checked(text, InsecureScheme::refused), secure) << text;
-    EXPECT_EQ(checked(text, InsecureScheme::allowed), insecure) << text;
-  }
+  for (const CheckCase& check : kCases) expectChecked(check);
+}
+
+// The range searched has as many units as the text has characters, so each character of two units
+// leaves out a unit at the end. A blank there makes up for one of them.
+TEST(LinkDetectorTest, CharactersOfSeveralUnitsShortenTheRange) {
+  constexpr CheckCase kCases[] = {
+      {"https://h.example/\U0001f600", false, "absent", "absent"},
+      {"https://h.example/\U0001f600a", false, "absent", "absent"},
+      {"https://h.example/e\u0301", false, "absent", "absent"},
+      {"https://h.example/e\u0301a", false, "absent", "absent"},
+      {"e\u0301 https://h.example", false, "absent", "absent"},
+      {"https://h.example e\u0301", false, "https://h.example", "https://h.example"},
+      {"https://h.example/e\u0301 ", true, "https://h.example/e%CC%81",
+       "https://h.example/e%CC%81"},
+      {"https://h.example/\U0001f600 ", true, "https://h.example/%F0%9F%98%80",
+       "https://h.example/%F0%9F%98%80"},
+      {"https://h.example/e\u0301  ", false, "https://h.example/e%CC%81",
+       "https://h.example/e%CC%81"},
+      {"https://h.example/\u00e9", true, "https://h.example/%C3%A9", "https://h.example/%C3%A9"},
+  };
+  for (const CheckCase& check : kCases) expectChecked(check);
 }
 
 TEST(LinkDetectorTest, AnswersSeveralThreadsAtOnce) {

@@ -130,6 +130,12 @@ TEST(UnicodeTest, TestsPrefixesInBytesForAsciiElseDecomposed) {
   }
 }
 
+TEST(UnicodeTest, LowersCapitalsOfAsciiAlone) {
+  EXPECT_EQ(asciiLowerCase(""), "");
+  EXPECT_EQ(asciiLowerCase("@AZ[`az{09"), "@az[`az{09");
+  EXPECT_EQ(asciiLowerCase("\u00c9\u0130K\u212a\xff"), "\u00c9\u0130k\u212a\xff");
+}
+
 TEST(UnicodeTest, AsciiEndsBelow0x80) {
   EXPECT_TRUE(isAscii(""));
   EXPECT_TRUE(isAscii("\0\x01 ~\x7f"sv));
