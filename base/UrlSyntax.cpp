@@ -110,7 +110,7 @@ bool isUrl(std::string_view text) {
 
 std::string escapedTail(std::string_view text) {
   const auto [beforeFragment, fragment] = splitAt(text, "#");
-  const std::string result = escapedKeepingEscapes(beforeFragment, kQueryBytes);
+  std::string result = escapedKeepingEscapes(beforeFragment, kQueryBytes);
   if (fragment.empty()) return result;
   return result + "#" + escapedKeepingEscapes(fragment.substr(1), kQueryBytes);
 }

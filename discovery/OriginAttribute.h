@@ -14,7 +14,8 @@ class OriginAttribute {
 
   /// In the manner of `getxattr`: without a buffer (null, 0) the attribute's size in bytes; with
   /// one, the number of bytes written to it. -1 on any failure: no such file or attribute, a
-  /// buffer that is too small. Symbolic links are followed. Any thread.
+  /// buffer that is too small. Symbolic links are followed. May block for seconds where the desktop
+  /// has to be asked; any thread but the main one.
   virtual std::ptrdiff_t read(const std::string& path, std::byte* buffer,
                               std::size_t size) const = 0;
 };

@@ -10,6 +10,7 @@
 #include <span>
 
 #include "base/Unicode.h"
+#include "discovery/linux/MetadataStore.h"
 #include "discovery/linux/XmlText.h"
 
 namespace launcher {
@@ -35,12 +36,21 @@ bool isAddress(std::string_view text) {
          std::none_of(text.begin(), text.end(), [](unsigned char c) { return c < ' '; });
 }
 
+/// The address that a file came from, as it is recorded with the file, else by the desktop.
+std::optional<std::string> recordedAddress(const std::string& path) {
+  const std::optional<std::string> address = attributeValue(path, kOriginUrl);
+  return address ? address : downloadAddress(path);
+}
+
 /// The list that another system would have recorded, or absent.
 std::optional<std::string> originList(const std::string& path) {
-  const std::optional<std::string> address = attributeValue(path, kOriginUrl);
+  const std::optional<std::string> address = recordedAddress(path);
   if (!address || !isAddress(*address)) return std::nullopt;
   return xmlPropertyList("<array><string>" + xmlText(*address) + "</string></array>");
 }
+
+/// Whether a file has no such attribute, or lies where files have none.
+bool meansNoAttribute(int error) { return error == ENODATA || error == ENOTSUP; }
 
 std::ptrdiff_t copied(std::string_view bytes, std::byte* buffer, std::size_t size) {
   if (size == 0) return std::ssize(bytes);
@@ -53,7 +63,7 @@ class ExtendedAttributes : public OriginAttribute {
  public:
   std::ptrdiff_t read(const std::string& path, std::byte* buffer, std::size_t size) const override {
     const ssize_t length = getxattr(path.c_str(), kWhereFroms, buffer, size);
-    if (length >= 0 || errno != ENODATA) return length;
+    if (length >= 0 || !meansNoAttribute(errno)) return length;
     const std::optional<std::string> list = originList(path);
     return list ? copied(*list, buffer, size) : -1;
   }
