@@ -25,6 +25,7 @@ launcher_test(endurance APART BUILDS endurance-tests COMMAND "$<TARGET_FILE:endu
 launcher_python_test(e2e tests/e2e DISPLAY BUILDS application e2e-doubles)
 launcher_python_test(starts tests/e2e PATTERN starts.py BY_NAME DISPLAY BUILDS application e2e-doubles)
 launcher_python_test(bundle tests/portable BUILDS application)
+launcher_test(portable BY_NAME BUILDS application COMMAND "${CMAKE_SOURCE_DIR}/tests/portable/run")
 launcher_python_test(macos tests/macos)
 
 # The tests once more, in builds that watch every access to memory and between threads. Where the
