@@ -10,6 +10,9 @@ launcher_test(contract APART BUILDS contract-tests COMMAND "$<TARGET_FILE:contra
 if(TARGET appkit-window-tests)
   launcher_test(window NAME appkit DISPLAY BUILDS appkit-window-tests COMMAND "$<TARGET_FILE:appkit-window-tests>")
 endif()
+if(TARGET qt-window-tests)
+  launcher_test(window NAME qt BUILDS qt-window-tests COMMAND "$<TARGET_FILE:qt-window-tests>")
+endif()
 
 # The others drive an X display, or look from Linux at what a Mac meets by itself.
 if(APPLE)

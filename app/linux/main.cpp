@@ -30,11 +30,15 @@ struct ToolkitArguments {
   int count = qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? 1 : 3;
 };
 
-/// The toolkit aborts where it finds no display.
-void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
+/// What the toolkit has to remark is nothing that a person could act on; where it finds no display
+/// it aborts.
+void handleToolkitMessage(QtMsgType type, const QMessageLogContext&, const QString& message) {
   if (type != QtFatalMsg) return;
-  std::fputs("VorxLauncher: no display to show the window on\n", stderr);
-  std::_Exit(EXIT_FAILURE);
+  if (QCoreApplication::startingUp()) {
+    std::fputs("VorxLauncher: no display to show the window on\n", stderr);
+    std::_Exit(EXIT_FAILURE);
+  }
+  std::fprintf(stderr, "VorxLauncher: %s\n", qPrintable(message));
 }
 
 /// The toolkit's own texts, such as a field's menu, in the language of the window.
@@ -71,9 +75,8 @@ QString iconFile() {
 int run() {
   QuitSignals quitSignals;
   ToolkitArguments arguments;
-  qInstallMessageHandler(endWithoutDisplay);
+  qInstallMessageHandler(handleToolkitMessage);
   QApplication application(arguments.count, arguments.words.data());
-  qInstallMessageHandler(nullptr);
 
   QObject::connect(&application, &QCoreApplication::aboutToQuit, quitOnce);
   quitAtExit();

@@ -1,6 +1,8 @@
 #include "controller/linux/AddressField.h"
 
 #include <QPainter>
+#include <QRegularExpression>
+#include <QValidator>
 #include <limits>
 
 namespace launcher {
@@ -9,6 +11,19 @@ namespace {
 constexpr qreal borderWidth = 1;
 constexpr qreal cornerRadius = 5;
 constexpr qreal focusWidth = 2;
+
+/// Takes every text, less its line breaks.
+class OneLine : public QValidator {
+ public:
+  using QValidator::QValidator;
+
+  State validate(QString& text, int& cursor) const override {
+    static const QRegularExpression lineBreaks(QStringLiteral("[\\n\\r\\x{2028}\\x{2029}]"));
+    cursor = static_cast<int>(text.left(cursor).remove(lineBreaks).size());
+    text.remove(lineBreaks);
+    return Acceptable;
+  }
+};
 
 QPalette withoutBackground(QPalette palette) {
   palette.setBrush(QPalette::Base, Qt::transparent);
@@ -26,6 +41,7 @@ QRectF lineInside(const QRectF& outer, qreal width) {
 AddressField::AddressField(const QString& placeholder) {
   setPlaceholderText(placeholder);
   setMaxLength(std::numeric_limits<int>::max());
+  setValidator(new OneLine(this));
   setFrame(false);
   setPalette(withoutBackground(palette()));
   constexpr int margin = 6;

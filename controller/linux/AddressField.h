@@ -7,7 +7,8 @@
 namespace launcher {
 
 /// A text field for an address: a rounded border, which shows the focus, and a background that may
-/// say something about the text. Takes a text of any length.
+/// say something about the text. Takes a text of any length, and of several lines, which it joins:
+/// line breaks would not be seen.
 class AddressField : public QLineEdit {
  public:
   /// `placeholder` is shown while the field is empty.

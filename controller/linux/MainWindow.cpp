@@ -87,6 +87,7 @@ void MainWindow::setInfoLabel(const std::string& text) {
 /// Texts may hold what a person typed, so they are shown as they are, not read as markup.
 void MainWindow::showAlert(const Alert& alert) {
   QMessageBox box(this);
+  box.setWindowFlag(Qt::WindowStaysOnTopHint);
   box.setIcon(QMessageBox::Warning);
   box.setWindowTitle(windowTitle());
   box.setTextFormat(Qt::PlainText);
