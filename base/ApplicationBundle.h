@@ -11,7 +11,8 @@ class ApplicationBundle {
  public:
   virtual ~ApplicationBundle() = default;
 
-  /// The bundle's own path, symbolic links resolved, without a trailing separator.
+  /// The bundle's own path without a trailing separator. On macOS it is the system's own text; on
+  /// Linux, where the program may be started through a symbolic link, links are resolved.
   virtual std::string path() const = 0;
 
   /// The path of the resource folder without a trailing separator, or absent.

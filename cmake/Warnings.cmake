@@ -14,3 +14,9 @@ check_cxx_compiler_flag(-Wmissing-designated-field-initializers WARNS_OF_DEFAULT
 if(WARNS_OF_DEFAULTS)
   target_compile_options(launcher_warnings INTERFACE -Wno-missing-designated-field-initializers)
 endif()
+
+# The cross-build's declarations are ours and say exactly what we believe of each call.
+if(APPLE AND CMAKE_CROSSCOMPILING)
+  target_compile_options(launcher_warnings INTERFACE
+    -Wnullable-to-nonnull-conversion -Wunguarded-availability)
+endif()

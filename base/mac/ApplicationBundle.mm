@@ -1,24 +1,14 @@
-#import <Foundation/Foundation.h>
-
-#include <climits>
-#include <cstdlib>
-
 #include "base/ApplicationBundle.h"
+#import "base/mac/Conversions.h"
 
 namespace launcher {
 namespace {
-
-std::string realPath(NSString* path) {
-  const char* given = [path fileSystemRepresentation];
-  char resolved[PATH_MAX];
-  return realpath(given, resolved) != nullptr ? resolved : given;
-}
 
 class MainBundle : public ApplicationBundle {
  public:
   std::string path() const override {
     @autoreleasepool {
-      return realPath([[NSBundle mainBundle] bundlePath]);
+      return toStdString([[NSBundle mainBundle] bundlePath]);
     }
   }
 
@@ -26,7 +16,7 @@ class MainBundle : public ApplicationBundle {
     @autoreleasepool {
       NSString* path = [[NSBundle mainBundle] resourcePath];
       if (path == nil) return std::nullopt;
-      return realPath(path);
+      return toStdString(path);
     }
   }
 };

@@ -48,17 +48,17 @@ void addTexts(NSView* view, Texts& texts) {
 }
 
 void press(NSString* character, unsigned short keyCode) {
-  [NSApp postEvent:[NSEvent keyEventWithType:NSEventTypeKeyDown
-                                          location:NSZeroPoint
-                                     modifierFlags:0
-                                         timestamp:0
-                                      windowNumber:[[NSApp modalWindow] windowNumber]
-                                           context:nil
-                                        characters:character
-                       charactersIgnoringModifiers:character
-                                         isARepeat:NO
-                                           keyCode:keyCode]
-           atStart:NO];
+  NSEvent* event = [NSEvent keyEventWithType:NSEventTypeKeyDown
+                                    location:NSZeroPoint
+                               modifierFlags:0
+                                   timestamp:0
+                                windowNumber:[[NSApp modalWindow] windowNumber]
+                                     context:nil
+                                  characters:character
+                 charactersIgnoringModifiers:character
+                                   isARepeat:NO
+                                     keyCode:keyCode];
+  [NSApp postEvent:event atStart:NO];
 }
 
 }  // namespace

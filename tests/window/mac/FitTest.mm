@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#import "base/mac/Conversions.h"
 #import "tests/window/mac/Stage.h"
 #import "tests/window/mac/Windows.h"
 
@@ -18,10 +19,9 @@ const char* const statusTexts[] = {
 /// From the language's own table; nil where that lacks the text.
 NSString* inLanguage(NSString* language, const char* key) {
   NSString* folder = [[NSBundle mainBundle] pathForResource:language ofType:@"lproj"];
-  NSString* text =
-      [[NSBundle bundleWithPath:folder] localizedStringForKey:[NSString stringWithUTF8String:key]
-                                                        value:@"missing"
-                                                        table:nil];
+  NSString* text = [[NSBundle bundleWithPath:folder] localizedStringForKey:toNSString(key)
+                                                                     value:@"missing"
+                                                                     table:nil];
   return [text isEqualToString:@"missing"] ? nil : text;
 }
 

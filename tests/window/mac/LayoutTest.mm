@@ -38,7 +38,8 @@ TEST_F(LayoutTest, MakesTheControllerTheFieldsDelegateAndTheButtonsTarget) {
   EXPECT_EQ([[controller_ vorxLocation] delegate], controller_);
   EXPECT_EQ([[controller_ ipAddress] delegate], controller_);
   EXPECT_EQ([[controller_ launchButton] target], controller_);
-  EXPECT_TRUE(sel_isEqual([[controller_ launchButton] action], @selector(launchButtonClick:)));
+  const SEL action = [[controller_ launchButton] action];
+  EXPECT_TRUE(sel_isEqual(action, @selector(launchButtonClick:)));
 }
 
 TEST_F(LayoutTest, OffersNoLaunchBeforeTheFirstEvaluation) {

@@ -2,6 +2,8 @@
 
 #import <Foundation/Foundation.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 @class NSButton;
 
 typedef NSInteger NSModalResponse;
@@ -12,3 +14,5 @@ FOUNDATION_EXPORT @interface NSAlert : NSObject
 - (NSButton*)addButtonWithTitle:(NSString*)title;
 - (NSModalResponse)runModal;
 @end
+
+NS_ASSUME_NONNULL_END

@@ -3,6 +3,8 @@
 #import <AppKit/NSEvent.h>
 #import <Foundation/Foundation.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 @class NSImage;
 @class NSWindow;
 @protocol NSApplicationDelegate;
@@ -15,33 +17,34 @@ FOUNDATION_EXPORT const NSNotificationName NSApplicationWillTerminateNotificatio
 FOUNDATION_EXPORT const NSRunLoopMode NSModalPanelRunLoopMode;
 
 FOUNDATION_EXPORT @interface NSResponder : NSObject <NSCoding>
-- (void)insertBacktab:(id)sender;
-- (void)insertTab:(id)sender;
+- (void)insertBacktab:(nullable id)sender;
+- (void)insertTab:(nullable id)sender;
 - (void)insertText:(id)text;
-- (BOOL)tryToPerform:(SEL)action with:(id)object;
+- (BOOL)tryToPerform:(SEL)action with:(nullable id)object;
 @end
 
 FOUNDATION_EXPORT @interface NSApplication : NSResponder
 @property(class, readonly, retain) NSApplication* sharedApplication;
-@property(assign) id<NSApplicationDelegate> delegate;
+@property(nullable, assign) id<NSApplicationDelegate> delegate;
 @property(readonly, getter=isActive) BOOL active;
-@property(retain) NSImage* applicationIconImage;
-@property(readonly, assign) NSWindow* modalWindow;
+@property(null_resettable, retain) NSImage* applicationIconImage;
+@property(nullable, readonly, assign) NSWindow* modalWindow;
 @property(readonly, copy) NSArray<NSWindow*>* windows;
 - (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)policy;
-- (void)activateIgnoringOtherApps:(BOOL)flag;
+- (void)activateIgnoringOtherApps:(BOOL)flag
+    API_DEPRECATED("Use activate", macos(10.0, API_TO_BE_DEPRECATED));
 - (void)finishLaunching;
-- (NSEvent*)nextEventMatchingMask:(NSEventMask)mask
-                        untilDate:(NSDate*)expiration
+- (nullable NSEvent*)nextEventMatchingMask:(NSEventMask)mask
+                        untilDate:(nullable NSDate*)expiration
                            inMode:(NSRunLoopMode)mode
                           dequeue:(BOOL)dequeue;
 - (void)postEvent:(NSEvent*)event atStart:(BOOL)atStart;
 - (void)sendEvent:(NSEvent*)event;
 - (void)run;
-- (void)terminate:(id)sender;
+- (void)terminate:(nullable id)sender;
 @end
 
-FOUNDATION_EXPORT __kindof NSApplication* NSApp;
+FOUNDATION_EXPORT __kindof NSApplication* _Null_unspecified NSApp;
 
 @protocol NSApplicationDelegate <NSObject>
 @optional
@@ -50,4 +53,6 @@ FOUNDATION_EXPORT __kindof NSApplication* NSApp;
 - (BOOL)applicationShouldTerminateAfterLastWindowClosed:(NSApplication*)application;
 @end
 
-FOUNDATION_EXPORT int NSApplicationMain(int argc, const char* argv[]);
+FOUNDATION_EXPORT int NSApplicationMain(int argc, const char* _Nonnull argv[_Nonnull]);
+
+NS_ASSUME_NONNULL_END

@@ -2,6 +2,8 @@
 
 #import <AppKit/NSView.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 @class NSAttributedString;
 @class NSEvent;
 @class NSFont;
@@ -10,7 +12,7 @@
 typedef NS_ENUM(NSUInteger, NSLineBreakMode) { NSLineBreakByCharWrapping = 1 };
 
 FOUNDATION_EXPORT @interface NSCell : NSObject <NSCopying, NSCoding>
-@property(retain) NSFont* font;
+@property(nullable, retain) NSFont* font;
 @property NSLineBreakMode lineBreakMode;
 @property(readonly, copy) NSAttributedString* attributedStringValue;
 - (NSRect)titleRectForBounds:(NSRect)bounds;
@@ -18,12 +20,12 @@ FOUNDATION_EXPORT @interface NSCell : NSObject <NSCopying, NSCoding>
 - (void)editWithFrame:(NSRect)frame
                inView:(NSView*)view
                editor:(NSText*)editor
-             delegate:(id)delegate
-                event:(NSEvent*)event;
+             delegate:(nullable id)delegate
+                event:(nullable NSEvent*)event;
 - (void)selectWithFrame:(NSRect)frame
                  inView:(NSView*)view
                  editor:(NSText*)editor
-               delegate:(id)delegate
+               delegate:(nullable id)delegate
                   start:(NSInteger)start
                  length:(NSInteger)length;
 @end
@@ -32,5 +34,7 @@ FOUNDATION_EXPORT @interface NSActionCell : NSCell
 @end
 
 FOUNDATION_EXPORT @interface NSTextFieldCell : NSActionCell
-@property(copy) NSString* placeholderString;
+@property(nullable, copy) NSString* placeholderString;
 @end
+
+NS_ASSUME_NONNULL_END

@@ -2,6 +2,8 @@
 
 #import <Foundation/Foundation.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 FOUNDATION_EXPORT @interface NSColorSpace : NSObject
 @property(class, readonly, retain) NSColorSpace* genericGrayColorSpace;
 @end
@@ -12,5 +14,7 @@ FOUNDATION_EXPORT @interface NSColor : NSObject
 @property(class, readonly, retain) NSColor* whiteColor;
 @property(readonly) CGColorRef CGColor;
 @property(readonly) CGFloat whiteComponent;
-- (NSColor*)colorUsingColorSpace:(NSColorSpace*)space;
+- (nullable NSColor*)colorUsingColorSpace:(NSColorSpace*)space;
 @end
+
+NS_ASSUME_NONNULL_END

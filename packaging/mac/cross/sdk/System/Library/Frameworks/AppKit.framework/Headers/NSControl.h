@@ -3,6 +3,8 @@
 #import <AppKit/NSCell.h>
 #import <AppKit/NSView.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 @class NSColor;
 @class NSText;
 @protocol NSTextFieldDelegate;
@@ -11,28 +13,28 @@ FOUNDATION_EXPORT const NSNotificationName NSControlTextDidChangeNotification;
 
 FOUNDATION_EXPORT @interface NSControl : NSView
 @property(getter=isEnabled) BOOL enabled;
-@property(retain) NSFont* font;
-@property(retain) __kindof NSCell* cell;
+@property(nullable, retain) NSFont* font;
+@property(nullable, retain) __kindof NSCell* cell;
 @property(copy) NSString* stringValue;
-@property(assign) id target;
-@property SEL action;
-- (NSText*)currentEditor;
+@property(nullable, assign) id target;
+@property(nullable) SEL action;
+- (nullable NSText*)currentEditor;
 @end
 
 FOUNDATION_EXPORT @interface NSButton : NSControl
 @property(copy) NSString* title;
 @property(copy) NSString* keyEquivalent;
-- (void)performClick:(id)sender;
+- (void)performClick:(nullable id)sender;
 @end
 
 FOUNDATION_EXPORT @interface NSTextField : NSControl
-@property(assign) id<NSTextFieldDelegate> delegate;
+@property(nullable, assign) id<NSTextFieldDelegate> delegate;
 @property(getter=isEditable) BOOL editable;
 @property(getter=isSelectable) BOOL selectable;
 @property(getter=isBezeled) BOOL bezeled;
 @property(getter=isBordered) BOOL bordered;
 @property BOOL drawsBackground;
-@property(copy) NSColor* textColor;
+@property(nullable, copy) NSColor* textColor;
 @end
 
 @protocol NSControlTextEditingDelegate <NSObject>
@@ -42,3 +44,5 @@ FOUNDATION_EXPORT @interface NSTextField : NSControl
 
 @protocol NSTextFieldDelegate <NSControlTextEditingDelegate>
 @end
+
+NS_ASSUME_NONNULL_END

@@ -2,6 +2,8 @@
 
 #import <Foundation/Foundation.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 @class NSGraphicsContext;
 
 typedef NS_ENUM(NSUInteger, NSEventType) { NSEventTypeKeyDown = 10 };
@@ -11,14 +13,16 @@ typedef NS_OPTIONS(unsigned long long, NSEventMask) { NSEventMaskAny = NSUIntege
 typedef NSUInteger NSEventModifierFlags;
 
 FOUNDATION_EXPORT @interface NSEvent : NSObject <NSCopying, NSCoding>
-+ (NSEvent*)keyEventWithType:(NSEventType)type
++ (nullable NSEvent*)keyEventWithType:(NSEventType)type
                        location:(NSPoint)location
                   modifierFlags:(NSEventModifierFlags)flags
                       timestamp:(NSTimeInterval)time
                    windowNumber:(NSInteger)window
-                        context:(NSGraphicsContext*)context
+                        context:(nullable NSGraphicsContext*)context
                      characters:(NSString*)characters
     charactersIgnoringModifiers:(NSString*)unmodified
                       isARepeat:(BOOL)repeats
                         keyCode:(unsigned short)code;
 @end
+
+NS_ASSUME_NONNULL_END

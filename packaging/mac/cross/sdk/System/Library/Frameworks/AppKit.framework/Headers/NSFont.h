@@ -2,6 +2,8 @@
 
 #import <Foundation/Foundation.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 FOUNDATION_EXPORT @interface NSFont : NSObject
 + (NSFont*)systemFontOfSize:(CGFloat)size;
 + (NSFont*)boldSystemFontOfSize:(CGFloat)size;
@@ -9,3 +11,5 @@ FOUNDATION_EXPORT @interface NSFont : NSObject
 @property(readonly) CGFloat descender;
 @property(readonly) CGFloat leading;
 @end
+
+NS_ASSUME_NONNULL_END

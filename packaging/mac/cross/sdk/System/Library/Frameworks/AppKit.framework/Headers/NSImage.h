@@ -2,15 +2,19 @@
 
 #import <AppKit/NSControl.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 typedef NS_ENUM(NSUInteger, NSImageScaling) {
   NSImageScaleProportionallyUpOrDown = 3,
 };
 
 FOUNDATION_EXPORT @interface NSImage : NSObject
-- (instancetype)initWithContentsOfFile:(NSString*)file;
+- (nullable instancetype)initWithContentsOfFile:(NSString*)file;
 @end
 
 FOUNDATION_EXPORT @interface NSImageView : NSControl
-@property(retain) NSImage* image;
+@property(nullable, retain) NSImage* image;
 @property NSImageScaling imageScaling;
 @end
+
+NS_ASSUME_NONNULL_END

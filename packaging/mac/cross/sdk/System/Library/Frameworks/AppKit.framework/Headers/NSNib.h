@@ -2,7 +2,11 @@
 
 #import <Foundation/Foundation.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 FOUNDATION_EXPORT @interface NSNib : NSObject
-- (instancetype)initWithNibNamed:(NSString*)name bundle:(NSBundle*)bundle;
-- (BOOL)instantiateWithOwner:(id)owner topLevelObjects:(NSArray**)objects;
+- (nullable instancetype)initWithNibNamed:(NSString*)name bundle:(nullable NSBundle*)bundle;
+- (BOOL)instantiateWithOwner:(nullable id)owner topLevelObjects:(NSArray* _Nullable* _Nullable)objects;
 @end
+
+NS_ASSUME_NONNULL_END

@@ -2,6 +2,8 @@
 
 #import <Foundation/Foundation.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 typedef NS_OPTIONS(NSInteger, NSStringDrawingOptions) {
   NSStringDrawingUsesLineFragmentOrigin = 1 << 0,
 };
@@ -9,9 +11,11 @@ typedef NS_OPTIONS(NSInteger, NSStringDrawingOptions) {
 FOUNDATION_EXPORT const NSAttributedStringKey NSFontAttributeName;
 
 @interface NSString (NSStringDrawing)
-- (NSSize)sizeWithAttributes:(NSDictionary<NSAttributedStringKey, id>*)attributes;
+- (NSSize)sizeWithAttributes:(nullable NSDictionary<NSAttributedStringKey, id>*)attributes;
 @end
 
 @interface NSAttributedString (NSStringDrawing)
 - (NSRect)boundingRectWithSize:(NSSize)size options:(NSStringDrawingOptions)options;
 @end
+
+NS_ASSUME_NONNULL_END

@@ -2,6 +2,8 @@
 
 #import <AppKit/NSView.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 @class NSViewController;
 
 typedef NSInteger NSWindowLevel;
@@ -24,18 +26,21 @@ FOUNDATION_EXPORT @interface NSWindow : NSResponder
 @property(copy) NSString* title;
 @property(getter=isReleasedWhenClosed) BOOL releasedWhenClosed;
 @property NSWindowLevel level;
-@property(retain) NSView* contentView;
-@property(retain) NSViewController* contentViewController;
+@property(nullable, retain) NSView* contentView;
+@property(nullable, retain) NSViewController* contentViewController
+    API_AVAILABLE(macos(10.10));
 @property NSSize contentMinSize;
 @property NSSize contentMaxSize;
 @property(readonly) NSRect frame;
 @property(readonly) NSInteger windowNumber;
 @property(readonly, getter=isKeyWindow) BOOL keyWindow;
-@property(readonly, assign) NSResponder* firstResponder;
-@property(assign) NSView* initialFirstResponder;
+@property(nullable, readonly, assign) NSResponder* firstResponder;
+@property(nullable, assign) NSView* initialFirstResponder;
 - (void)center;
-- (void)orderFront:(id)sender;
-- (void)orderOut:(id)sender;
+- (void)orderFront:(nullable id)sender;
+- (void)orderOut:(nullable id)sender;
 - (void)setFrame:(NSRect)frame display:(BOOL)display;
-- (void)makeKeyAndOrderFront:(id)sender;
+- (void)makeKeyAndOrderFront:(nullable id)sender;
 @end
+
+NS_ASSUME_NONNULL_END

@@ -2,6 +2,8 @@
 
 #include <CoreFoundation/CoreFoundation.h>
 
+CF_ASSUME_NONNULL_BEGIN
+
 typedef struct __CFHost* CFHostRef;
 
 enum CFHostInfoType : int {
@@ -11,7 +13,13 @@ enum CFHostInfoType : int {
 };
 typedef enum CFHostInfoType CFHostInfoType;
 
-CF_EXPORT CFHostRef CFHostCreateWithName(CFAllocatorRef allocator, CFStringRef hostname);
+CF_EXPORT CFHostRef CFHostCreateWithName(CFAllocatorRef _Nullable allocator, CFStringRef hostname)
+    API_DEPRECATED("Use Network framework", macos(10.3, 15.0));
 CF_EXPORT Boolean CFHostStartInfoResolution(CFHostRef host, CFHostInfoType info,
-                                            CFStreamError* error);
-CF_EXPORT CFArrayRef CFHostGetAddressing(CFHostRef host, Boolean* hasBeenResolved);
+                                            CFStreamError* _Nullable error)
+    API_DEPRECATED("Use Network framework", macos(10.3, 15.0));
+CF_EXPORT CFArrayRef _Nullable CFHostGetAddressing(CFHostRef host,
+                                                 Boolean* _Nullable hasBeenResolved)
+    API_DEPRECATED("Use Network framework", macos(10.3, 15.0));
+
+CF_ASSUME_NONNULL_END

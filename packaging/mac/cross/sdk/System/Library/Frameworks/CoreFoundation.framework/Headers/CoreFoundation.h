@@ -1,6 +1,7 @@
 #pragma once
 
 #include <MacTypes.h>
+#include <os/availability.h>
 #include <stdbool.h>
 #include <stdint.h>
 
@@ -9,6 +10,11 @@
 #else
 #define CF_EXPORT extern
 #endif
+
+#define CF_ASSUME_NONNULL_BEGIN _Pragma("clang assume_nonnull begin")
+#define CF_ASSUME_NONNULL_END _Pragma("clang assume_nonnull end")
+
+CF_ASSUME_NONNULL_BEGIN
 
 typedef signed long CFIndex;
 typedef unsigned long CFTypeID;
@@ -27,18 +33,20 @@ typedef struct {
 
 enum : CFStringEncoding { kCFStringEncodingUTF8 = 0x08000100 };
 
-CF_EXPORT const CFAllocatorRef kCFAllocatorDefault;
+CF_EXPORT const CFAllocatorRef _Null_unspecified kCFAllocatorDefault;
 
 CF_EXPORT void CFRelease(CFTypeRef object);
 CF_EXPORT CFTypeID CFGetTypeID(CFTypeRef object);
 
 CF_EXPORT CFIndex CFArrayGetCount(CFArrayRef array);
-CF_EXPORT const void* CFArrayGetValueAtIndex(CFArrayRef array, CFIndex index);
+CF_EXPORT const void* _Nullable CFArrayGetValueAtIndex(CFArrayRef array, CFIndex index);
 
 CF_EXPORT CFTypeID CFDataGetTypeID(void);
 CF_EXPORT CFIndex CFDataGetLength(CFDataRef data);
-CF_EXPORT const UInt8* CFDataGetBytePtr(CFDataRef data);
+CF_EXPORT const UInt8* _Nullable CFDataGetBytePtr(CFDataRef data);
 
-CF_EXPORT CFStringRef CFStringCreateWithBytes(CFAllocatorRef allocator, const UInt8* bytes,
+CF_EXPORT CFStringRef _Nullable CFStringCreateWithBytes(CFAllocatorRef _Nullable allocator, const UInt8* bytes,
                                               CFIndex length, CFStringEncoding encoding,
                                               Boolean isExternalRepresentation);
+
+CF_ASSUME_NONNULL_END

@@ -2,6 +2,8 @@
 
 #include <CoreFoundation/CoreFoundation.h>
 
+CF_ASSUME_NONNULL_BEGIN
+
 typedef double CGFloat;
 #define CGFLOAT_MAX __DBL_MAX__
 
@@ -30,5 +32,7 @@ typedef int32_t CGWindowLevelKey;
 enum : CGWindowLevelKey { kCGFloatingWindowLevelKey = 5 };
 
 CF_EXPORT CGWindowLevel CGWindowLevelForKey(CGWindowLevelKey key);
-CF_EXPORT CFDictionaryRef CGSessionCopyCurrentDictionary(void);
-CF_EXPORT bool CGColorEqualToColor(CGColorRef a, CGColorRef b);
+CF_EXPORT CFDictionaryRef _Nullable CGSessionCopyCurrentDictionary(void);
+CF_EXPORT bool CGColorEqualToColor(CGColorRef _Nullable a, CGColorRef _Nullable b);
+
+CF_ASSUME_NONNULL_END

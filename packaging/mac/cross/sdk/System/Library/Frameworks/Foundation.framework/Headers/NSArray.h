@@ -2,11 +2,13 @@
 
 #import <Foundation/NSObject.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 FOUNDATION_EXPORT @interface NSArray<__covariant ObjectType> : NSObject <NSCopying, NSFastEnumeration>
 + (instancetype)array;
-+ (instancetype)arrayWithObjects:(const ObjectType[])objects count:(NSUInteger)count;
++ (instancetype)arrayWithObjects:(const ObjectType _Nonnull[_Nonnull])objects count:(NSUInteger)count;
 @property(readonly) NSUInteger count;
-@property(readonly) ObjectType firstObject;
+@property(nullable, readonly) ObjectType firstObject;
 - (BOOL)containsObject:(ObjectType)object;
 - (ObjectType)objectAtIndex:(NSUInteger)index;
 - (ObjectType)objectAtIndexedSubscript:(NSUInteger)index;
@@ -16,3 +18,5 @@ FOUNDATION_EXPORT @interface NSMutableArray<ObjectType> : NSArray<ObjectType>
 + (instancetype)arrayWithCapacity:(NSUInteger)capacity;
 - (void)addObject:(ObjectType)object;
 @end
+
+NS_ASSUME_NONNULL_END

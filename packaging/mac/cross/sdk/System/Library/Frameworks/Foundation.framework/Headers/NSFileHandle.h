@@ -2,11 +2,14 @@
 
 #import <Foundation/NSObject.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 @class NSData;
 
 FOUNDATION_EXPORT @interface NSFileHandle : NSObject
 @property(readonly, copy) NSData* availableData;
-@property(copy) void (^readabilityHandler)(NSFileHandle* handle);
+@property(nullable, copy) void (^readabilityHandler)(NSFileHandle* handle)
+    API_AVAILABLE(macos(10.7));
 @end
 
 FOUNDATION_EXPORT @interface NSPipe : NSObject
@@ -14,3 +17,5 @@ FOUNDATION_EXPORT @interface NSPipe : NSObject
 @property(readonly, retain) NSFileHandle* fileHandleForReading;
 @property(readonly, retain) NSFileHandle* fileHandleForWriting;
 @end
+
+NS_ASSUME_NONNULL_END

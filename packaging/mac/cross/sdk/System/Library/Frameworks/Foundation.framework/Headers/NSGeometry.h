@@ -4,6 +4,8 @@
 
 #import <Foundation/NSObject.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 typedef CGPoint NSPoint;
 typedef CGSize NSSize;
 typedef CGRect NSRect;
@@ -19,3 +21,5 @@ static inline NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat width, CGFloat hei
   NSRect rect = {{x, y}, {width, height}};
   return rect;
 }
+
+NS_ASSUME_NONNULL_END

@@ -2,13 +2,17 @@
 
 #import <Foundation/NSObject.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 @class NSDictionary<KeyType, ObjectType>;
 @class NSString;
 
 typedef NSString* NSNotificationName;
 
 FOUNDATION_EXPORT @interface NSNotification : NSObject
-+ (instancetype)notificationWithName:(NSNotificationName)name object:(id)object;
++ (instancetype)notificationWithName:(NSNotificationName)name object:(nullable id)object;
 @property(readonly, copy) NSNotificationName name;
-@property(readonly, retain) id object;
+@property(nullable, readonly, retain) id object;
 @end
+
+NS_ASSUME_NONNULL_END

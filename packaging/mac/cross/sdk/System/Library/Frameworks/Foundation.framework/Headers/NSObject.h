@@ -4,6 +4,7 @@
 #include <CoreFoundation/CoreFoundation.h>
 #include <limits.h>
 #include <objc/NSObject.h>
+#include <os/availability.h>
 #include <stdbool.h>
 
 #if defined(__cplusplus)
@@ -14,6 +15,11 @@
 
 #define NS_ENUM(type, name) enum name : type name; enum name : type
 #define NS_OPTIONS(type, name) type name; enum : type
+
+#define NS_ASSUME_NONNULL_BEGIN _Pragma("clang assume_nonnull begin")
+#define NS_ASSUME_NONNULL_END _Pragma("clang assume_nonnull end")
+
+NS_ASSUME_NONNULL_BEGIN
 
 typedef double NSTimeInterval;
 
@@ -34,23 +40,25 @@ static inline NSUInteger NSMaxRange(NSRange range) { return range.location + ran
 @class NSCoder;
 
 @protocol NSCopying
-- (id)copyWithZone:(struct _NSZone*)zone;
+- (id)copyWithZone:(nullable struct _NSZone*)zone;
 @end
 
 @protocol NSCoding
 - (void)encodeWithCoder:(NSCoder*)coder;
-- (instancetype)initWithCoder:(NSCoder*)coder;
+- (nullable instancetype)initWithCoder:(NSCoder*)coder;
 @end
 
 typedef struct {
   unsigned long state;
-  id __unsafe_unretained* itemsPtr;
-  unsigned long* mutationsPtr;
+  id __unsafe_unretained _Nullable* _Nullable itemsPtr;
+  unsigned long* _Nullable mutationsPtr;
   unsigned long extra[5];
 } NSFastEnumerationState;
 
 @protocol NSFastEnumeration
 - (NSUInteger)countByEnumeratingWithState:(NSFastEnumerationState*)state
-                                  objects:(id __unsafe_unretained[])buffer
+                                  objects:(id __unsafe_unretained _Nullable[_Nonnull])buffer
                                     count:(NSUInteger)length;
 @end
+
+NS_ASSUME_NONNULL_END

@@ -2,6 +2,8 @@
 
 #import <Foundation/NSObject.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 static const NSInteger NSOperationQueueDefaultMaxConcurrentOperationCount = -1;
 
 FOUNDATION_EXPORT @interface NSOperationQueue : NSObject
@@ -11,3 +13,5 @@ FOUNDATION_EXPORT @interface NSOperationQueue : NSObject
 @property NSInteger maxConcurrentOperationCount;
 @property(getter=isSuspended) BOOL suspended;
 @end
+
+NS_ASSUME_NONNULL_END

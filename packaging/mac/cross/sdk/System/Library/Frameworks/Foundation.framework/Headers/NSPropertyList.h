@@ -2,6 +2,8 @@
 
 #import <Foundation/NSObject.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 @class NSData;
 @class NSError;
 
@@ -15,8 +17,10 @@ typedef NSUInteger NSPropertyListReadOptions;
 enum : NSUInteger { NSPropertyListMutableContainers = 1 };
 
 FOUNDATION_EXPORT @interface NSPropertyListSerialization : NSObject
-+ (id)propertyListWithData:(NSData*)data
++ (nullable id)propertyListWithData:(NSData*)data
                    options:(NSPropertyListReadOptions)options
-                    format:(NSPropertyListFormat*)format
+                    format:(nullable NSPropertyListFormat*)format
                      error:(NSError**)error;
 @end
+
+NS_ASSUME_NONNULL_END

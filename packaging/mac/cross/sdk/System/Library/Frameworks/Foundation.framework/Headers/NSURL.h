@@ -2,16 +2,20 @@
 
 #import <Foundation/NSObject.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 @class NSString;
 
 FOUNDATION_EXPORT @interface NSURL : NSObject <NSCopying>
-+ (instancetype)URLWithString:(NSString*)text;
++ (nullable instancetype)URLWithString:(NSString*)text;
 + (NSURL*)fileURLWithPath:(NSString*)path;
 + (NSURL*)fileURLWithPath:(NSString*)path isDirectory:(BOOL)isDirectory;
-@property(readonly, copy) NSString* absoluteString;
-@property(readonly, copy) NSString* scheme;
-@property(readonly, copy) NSString* host;
-@property(readonly, copy) NSString* path;
-@property(readonly, copy) NSURL* URLByDeletingLastPathComponent;
+@property(nullable, readonly, copy) NSString* absoluteString;
+@property(nullable, readonly, copy) NSString* scheme;
+@property(nullable, readonly, copy) NSString* host;
+@property(nullable, readonly, copy) NSString* path;
+@property(nullable, readonly, copy) NSURL* URLByDeletingLastPathComponent;
 - (BOOL)getFileSystemRepresentation:(char*)buffer maxLength:(NSUInteger)length;
 @end
+
+NS_ASSUME_NONNULL_END

@@ -2,6 +2,8 @@
 
 #import <Foundation/NSObject.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 FOUNDATION_EXPORT @interface NSValue : NSObject <NSCopying>
 @end
 
@@ -9,3 +11,5 @@ FOUNDATION_EXPORT @interface NSNumber : NSValue
 + (NSNumber*)numberWithBool:(BOOL)value;
 + (NSNumber*)numberWithInt:(int)value;
 @end
+
+NS_ASSUME_NONNULL_END

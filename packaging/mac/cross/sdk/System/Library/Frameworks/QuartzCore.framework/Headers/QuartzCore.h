@@ -3,9 +3,13 @@
 #import <CoreGraphics/CoreGraphics.h>
 #import <Foundation/Foundation.h>
 
+NS_ASSUME_NONNULL_BEGIN
+
 FOUNDATION_EXPORT @interface CALayer : NSObject
 + (instancetype)layer;
 @property CGFloat borderWidth;
 @property CGFloat cornerRadius;
-@property CGColorRef backgroundColor;
+@property(nullable) CGColorRef backgroundColor;
 @end
+
+NS_ASSUME_NONNULL_END
