@@ -8,7 +8,11 @@
 /// A NUL is a character like any other. No state; any thread.
 namespace launcher {
 
-/// The number of user-perceived characters (extended grapheme clusters).
+/// The number of user-perceived characters: extended grapheme clusters on Linux, composed character
+/// sequences on macOS. Those differ for controls with combining marks, prepended marks such as
+/// U+0600, Thai and Lao SARA AM, and consonants that a virama joins. As a location is searched as
+/// far as it has characters, one with such a letter may be valid on one system alone: the link in
+/// "https://h/\u0e2a\u0e33" is as long as the text on macOS, and reaches beyond the range on Linux.
 ///
 ///     characterCount("abc")         -> 3
 ///     characterCount("e\u0301")     -> 1     a letter and its combining accent

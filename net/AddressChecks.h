@@ -29,7 +29,7 @@ enum class InsecureScheme { refused, allowed };
 std::optional<Url> validURLAddress(std::string_view text, InsecureScheme insecure,
                                    const LinkDetector& detector);
 
-/// Whether the text is a numeric IPv6 or IPv4 address and nothing else.
+/// Whether the text up to its first NUL is a numeric IPv6 or IPv4 address and nothing else.
 ///
 ///     "10.0.0.5", "::1", "::ffff:10.0.0.5"     -> true
 ///     "10.0.0", "10.0.0.5 ", "server", ""      -> false

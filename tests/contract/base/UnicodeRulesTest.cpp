@@ -1,117 +1,35 @@
 #include <gtest/gtest.h>
 
-#include <cstdio>
-#include <fstream>
-#include <memory>
-#include <sstream>
-#include <string>
-#include <vector>
-
 #include "base/Unicode.h"
 #include "base/UnicodeRules.h"
+#include "tests/contract/base/CodePointNotation.h"
+#include "tests/contract/base/FoundationTexts.h"
 
-// The Unicode Consortium's own test files, where the system has them.
 namespace launcher {
 namespace {
-
-constexpr const char* kGraphemeFile = "/usr/share/unicode/auxiliary/GraphemeBreakTest.txt";
-constexpr const char* kNormalizationFile = "/usr/share/unicode/NormalizationTest.txt.bz2";
-
-bool exists(const char* path) { return std::ifstream(path).good(); }
-
-void appendPoint(std::u16string& units, unsigned long point) {
-  if (point >= 0x10000) {
-    units.push_back(static_cast<char16_t>(0xD7C0 + (point >> 10)));
-    units.push_back(static_cast<char16_t>(0xDC00 + (point & 0x3FF)));
-  } else {
-    units.push_back(static_cast<char16_t>(point));
-  }
-}
-
-/// Decodes "0044 0307".
-std::u16string unitsOf(const std::string& hexadecimals) {
-  std::u16string units;
-  std::istringstream words(hexadecimals);
-  for (std::string word; words >> word;) appendPoint(units, std::stoul(word, nullptr, 16));
-  return units;
-}
-
-struct GraphemeCase {
-  std::u16string units;
-  std::size_t clusters = 0;
-};
-
-/// Decodes "÷ 0020 × 0308 ÷ 0020 ÷": each "÷" after the first ends a cluster.
-GraphemeCase graphemeCase(const std::string& line) {
-  GraphemeCase result;
-  std::istringstream words(line);
-  std::string word;
-  words >> word;
-  while (words >> word) {
-    if (word == "÷") {
-      ++result.clusters;
-    } else if (word != "×") {
-      result.units += unitsOf(word);
-    }
-  }
-  return result;
-}
-
-TEST(UnicodeRulesTest, CountsGraphemeClustersAsTheConsortiumDoes) {
-  if (!exists(kGraphemeFile)) GTEST_SKIP() << "no file " << kGraphemeFile;
-  std::ifstream file(kGraphemeFile);
-  int cases = 0;
-  for (std::string line; std::getline(file, line);) {
-    const std::string data = line.substr(0, line.find('#'));
-    if (data.empty()) continue;
-    const GraphemeCase expected = graphemeCase(data);
-    EXPECT_EQ(graphemeClusterCount(expected.units), expected.clusters) << line;
-    EXPECT_EQ(characterCount(utf8(expected.units)), expected.clusters) << line;
-    ++cases;
-  }
-  EXPECT_GT(cases, 600);
-}
-
-std::vector<std::u16string> columnsOf(const std::string& line) {
-  std::vector<std::u16string> columns;
-  std::istringstream fields(line);
-  for (std::string field; columns.size() < 5 && std::getline(fields, field, ';');) {
-    columns.push_back(unitsOf(field));
-  }
-  return columns;
-}
-
-std::string decompressed(const char* path) {
-  const std::string command = std::string("bzcat ") + path;
-  const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
-  std::string text;
-  char buffer[65536];
-  while (const std::size_t count = fread(buffer, 1, sizeof buffer, pipe.get())) {
-    text.append(buffer, count);
-  }
-  return text;
-}
-
-TEST(UnicodeRulesTest, DecomposesAsTheConsortiumDoes) {
-  if (!exists(kNormalizationFile)) GTEST_SKIP() << "no file " << kNormalizationFile;
-  std::istringstream file(decompressed(kNormalizationFile));
-  int cases = 0;
-  for (std::string line; std::getline(file, line);) {
-    if (line.empty() || line[0] == '#' || line[0] == '@') continue;
-    const std::vector<std::u16string> c = columnsOf(line);
-    ASSERT_EQ(c.size(), 5U) << line;
-    const std::u16string wanted[] = {c[2], c[2], c[2], c[4], c[4]};
-    for (std::size_t column = 0; column < 5; ++column) {
-      EXPECT_EQ(decomposition(c[column]), wanted[column]) << line << " column " << column + 1;
-    }
-    ++cases;
-  }
-  EXPECT_GT(cases, 19000);
-}
 
 TEST(UnicodeRulesTest, AnswersForNothing) {
   EXPECT_EQ(graphemeClusterCount(u""), 0U);
   EXPECT_EQ(decomposition(u""), u"");
+}
+
+TEST(UnicodeRulesTest, CountsCharactersAsFoundationDoes) {
+  for (const auto& [points, characters] : kCharacterCounts) {
+    EXPECT_EQ(graphemeClusterCount(unitsOf(points)), characters) << points;
+    EXPECT_EQ(characterCount(utf8(unitsOf(points))), characters) << points;
+  }
+}
+
+TEST(UnicodeRulesTest, ALineEndIsOneCharacter) {
+  EXPECT_EQ(graphemeClusterCount(u"\r\n"), 1U);
+  EXPECT_EQ(graphemeClusterCount(u"\u00e9\r\n\r\n"), 3U);
+}
+
+TEST(UnicodeRulesTest, ComparesAsFoundationDoes) {
+  for (const auto& [one, other, isEqual] : kEqualities) {
+    EXPECT_EQ(canonicallyEqual(utf8(unitsOf(one)), utf8(unitsOf(other))), isEqual)
+        << one << " and " << other;
+  }
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "net/AddressChecks.h"
 #include "net/LinkDetector.h"
 #include "tests/contract/net/FoundLink.h"
 
@@ -291,6 +292,11 @@ TEST(LinkDetectorLinuxTest, LoneSurrogatesEndLinks) {
   EXPECT_EQ(foundLink(text, text.size()), "http://h/a at 0+10");
   text[10] = 0xDE00;
   EXPECT_EQ(foundLink(text, text.size()), "http://h/a at 0+10");
+}
+
+TEST(LinkDetectorLinuxTest, ALetterThatMacosCountsAsTwoShortensTheRange) {
+  EXPECT_FALSE(isValidURLAddress("https://h.example/\u0e2a\u0e33", *makeLinkDetector()));
+  EXPECT_TRUE(isValidURLAddress("https://h.example/\u0e2a", *makeLinkDetector()));
 }
 
 TEST(LinkDetectorLinuxTest, ALengthBeyondTheTextIsTheTexts) {
