@@ -38,7 +38,7 @@ function(launcher_test suite)
   set(record "${CMAKE_BINARY_DIR}/results/${name}.xml")
   set_tests_properties(${name} PROPERTIES
     LABELS ${suite}
-    TIMEOUT 900
+    TIMEOUT 1800
     SKIP_RETURN_CODE 77
     FIXTURES_REQUIRED "${test_BUILDS};${test_PRESET}"
     ENVIRONMENT "GTEST_OUTPUT=xml:${record};GTEST_BRIEF=1;PYTEST_ADDOPTS=--junitxml=${record};${test_ENVIRONMENT}")

@@ -43,13 +43,16 @@ foreach(preset asan tsan)
   endforeach()
 endforeach()
 
-# The toolkit lets go of little at its end, and is not built to be watched: of its threads only the
+# Toolkits let go of little at their end, and are not built to be watched: of their threads only the
 # locks are seen.
-launcher_test(sanitizers-window NAME asan BY_NAME DISPLAY PRESET asan-window
-  ENVIRONMENT "ASAN_OPTIONS=detect_leaks=0" COMMAND "${CMAKE_SOURCE_DIR}/build/asan/tests/appkit-window-tests")
-launcher_test(sanitizers-window NAME tsan BY_NAME DISPLAY PRESET tsan-window
-  ENVIRONMENT "TSAN_OPTIONS=ignore_noninstrumented_modules=1"
-  COMMAND "${CMAKE_SOURCE_DIR}/build/tsan/tests/appkit-window-tests")
+set(asan ASAN_OPTIONS=detect_leaks=0)
+set(tsan TSAN_OPTIONS=ignore_noninstrumented_modules=1)
+foreach(preset asan tsan)
+  foreach(program appkit-window-tests qt-window-tests)
+    launcher_test(sanitizers-window NAME ${preset}.${program} BY_NAME DISPLAY PRESET ${preset}-window
+      ENVIRONMENT ${${preset}} COMMAND "${CMAKE_SOURCE_DIR}/build/${preset}/tests/${program}")
+  endforeach()
+endforeach()
 
 # The same inputs each time, so that a change is judged by what it changes; script/fuzz makes up others.
 file(GLOB targets CONFIGURE_DEPENDS fuzz/*.cpp)

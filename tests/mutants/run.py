@@ -59,7 +59,7 @@ class Copy:
             shutil.rmtree(scratch, ignore_errors=True)
             scratch.mkdir()
             command = ["unshare", "--mount", "--pid", "--ipc", "--net", "--fork", "--kill-child",
-                       "--mount-proc", sys.executable, APART, scratch, "none", *command]
+                       "--mount-proc", sys.executable, APART, "--inside", scratch, *command]
         try:
             return subprocess.run(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                                   stderr=subprocess.DEVNULL, timeout=LIMIT_SECONDS).returncode == 0
