@@ -38,6 +38,47 @@ def setter(outlet):
     return f"set{outlet[0].upper()}{outlet[1:]}:"
 
 
+def parents(root):
+    return {child: parent for parent in root.iter() for child in parent}
+
+
+def edges(element):
+    """The lower and upper edge; a view's own coordinates start at its bottom."""
+    frame = element.find("rect[@key='frame']")
+    lower = float(frame.get("y"))
+    return lower, lower + float(frame.get("height"))
+
+
+def label_above(root, field):
+    """The title of the text nearest above a field."""
+    upper = edges(field)[1]
+    labels = [text for text in root.iter("textField")
+              if text.find("textFieldCell").get("editable") == "NO" and edges(text)[0] >= upper]
+    return min(labels, key=lambda label: edges(label)[0]).find("textFieldCell").get("title")
+
+
+def role(root, element):
+    """What a person would call it."""
+    if element.get("id") == FILES_OWNER:
+        return "owner"
+    if element.tag == "textField":
+        cell = element.find("textFieldCell")
+        if cell.get("editable") == "YES":
+            return f"field below '{label_above(root, element)}'"
+        return f"text '{cell.get('title')}'"
+    if element.tag == "button":
+        return f"button '{element.find('buttonCell').get('title')}'"
+    return " ".join(filter(None, [element.tag, element.get("customClass"), element.get("nibName")]))
+
+
+def connections(root):
+    """Every outlet: from what, its name, to what."""
+    parent = parents(root)
+    return sorted((role(root, parent[parent[outlet]]), outlet.get("property"),
+                   role(root, root.find(f".//*[@id='{outlet.get('destination')}']")))
+                  for outlet in root.iter("outlet"))
+
+
 class Layouts(unittest.TestCase):
     def setUp(self):
         self.messages = machofile.messages(PROGRAM, ARCHITECTURES[0])
@@ -56,6 +97,29 @@ class Layouts(unittest.TestCase):
         self.assertEqual(owner_class(root), "ViewController")
         for outlet in outlets:
             self.assertIn(setter(outlet), self.messages["ViewController"])
+
+    def test_each_outlet_leads_to_the_control_of_that_name(self):
+        location, address = "field below 'Vorx location'", "field below 'IP address'"
+        launch = "button 'Launch'"
+        self.assertEqual(connections(layout("ViewController")), sorted([
+            ("owner", "infoLabel", "text 'Enter valid Vorx location to enable launch button'"),
+            ("owner", "ipAddress", address),
+            ("owner", "launchButton", launch),
+            ("owner", "view", "view"),
+            ("owner", "vorxLocation", location),
+            (location, "delegate", "owner"),
+            (address, "delegate", "owner"),
+            (location, "nextKeyView", address),
+            (address, "nextKeyView", launch),
+            (launch, "nextKeyView", location),
+            ("view", "nextKeyView", location),
+        ]))
+
+    def test_application_has_its_delegate_and_the_window_its_controller(self):
+        self.assertEqual(connections(layout("MainMenu")), [
+            ("owner", "delegate", "customObject AppDelegate"),
+            ("window", "contentViewController", "viewController ViewController ViewController"),
+        ])
 
     def test_actions_exist(self):
         root = layout("ViewController")

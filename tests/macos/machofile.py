@@ -26,6 +26,12 @@ def libraries(program, architecture):
     return sorted(re.match(r"\s+(?:.*/)?(\S+) \(", line)[1] for line in lines)
 
 
+def literals(program, architecture):
+    """The texts that are written in the code."""
+    lines = _dump(program, architecture, "--section=__TEXT,__cstring").splitlines()
+    return {line.partition("  ")[2] for line in lines if re.match(r"[0-9a-f]{16}  ", line)}
+
+
 def undefined_symbols(program, architecture):
     """Symbol → where it comes from ("from Foundation"), or None where nothing says so."""
     lines = output_of("llvm-nm-19", "-m", "-u", f"--arch={architecture}", program).splitlines()

@@ -8,6 +8,10 @@ from product import ARCHITECTURES, PROGRAM, TEST_PROGRAMS, VIEWER, build
 FRAMEWORKS = ["AppKit", "CFNetwork", "CoreFoundation", "CoreGraphics", "Foundation", "QuartzCore"]
 LIBRARIES = ["libSystem.B.dylib", "libc++.1.dylib", "libobjc.A.dylib"]
 
+# What other programs and the system know by name.
+NAMES = {"/usr/bin/hdiutil", "info", "-plist", "com.apple.metadata:kMDItemWhereFroms",
+         "/bin/", "vexlink", "-l", "-i", "-r", "vexwatch"}
+
 
 def setUpModule():
     build()
@@ -35,6 +39,11 @@ class Programs(unittest.TestCase):
         def check(program, architecture):
             self.assertEqual(machofile.libraries(program, architecture),
                              sorted(FRAMEWORKS + LIBRARIES))
+        self.check_each([PROGRAM], check)
+
+    def test_names_what_it_asks(self):
+        def check(program, architecture):
+            self.assertEqual(NAMES - machofile.literals(program, architecture), set())
         self.check_each([PROGRAM], check)
 
     def test_every_symbol_has_its_library(self):

@@ -30,7 +30,7 @@ void showWindow(const viewer::Arguments& arguments) {
   @autoreleasepool {
     NSApplication* application = [NSApplication sharedApplication];
     takeIcon(application, arguments);
-    SampleWindow* window = [[SampleWindow alloc] initWithArguments:arguments];
+    SampleWindow* window = [[[SampleWindow alloc] initWithArguments:arguments] autorelease];
     [application setDelegate:window];
     [window show];
     [application activateIgnoringOtherApps:YES];

@@ -39,11 +39,11 @@ CF_EXPORT void CFRelease(CFTypeRef object);
 CF_EXPORT CFTypeID CFGetTypeID(CFTypeRef object);
 
 CF_EXPORT CFIndex CFArrayGetCount(CFArrayRef array);
-CF_EXPORT const void* _Nullable CFArrayGetValueAtIndex(CFArrayRef array, CFIndex index);
+CF_EXPORT const void* _Null_unspecified CFArrayGetValueAtIndex(CFArrayRef array, CFIndex index);
 
 CF_EXPORT CFTypeID CFDataGetTypeID(void);
 CF_EXPORT CFIndex CFDataGetLength(CFDataRef data);
-CF_EXPORT const UInt8* _Nullable CFDataGetBytePtr(CFDataRef data);
+CF_EXPORT const UInt8* _Null_unspecified CFDataGetBytePtr(CFDataRef data);
 
 CF_EXPORT CFStringRef _Nullable CFStringCreateWithBytes(CFAllocatorRef _Nullable allocator, const UInt8* bytes,
                                               CFIndex length, CFStringEncoding encoding,
