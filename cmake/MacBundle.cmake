@@ -2,9 +2,10 @@
 
 include(Icons)
 
+set(information "${CMAKE_SOURCE_DIR}/resources/Info.plist")
 set_target_properties(VorxLauncher PROPERTIES
   MACOSX_BUNDLE ON
-  MACOSX_BUNDLE_INFO_PLIST "${CMAKE_SOURCE_DIR}/resources/Info.plist"
+  MACOSX_BUNDLE_INFO_PLIST "${information}"
   RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}")
 set(bundle_programs "${CMAKE_BINARY_DIR}/VorxLauncher.app/Contents/Resources/bin")
 include(BundlePrograms)
@@ -36,9 +37,9 @@ foreach(file IN LISTS localised_files)
   if(name MATCHES "Localizable\\.strings$")
     set(names "${compiled_folder}/InfoPlist.strings")
     add_custom_command(OUTPUT "${names}"
-      DEPENDS "${file}" "${CMAKE_SOURCE_DIR}/script/lib/localised/bundle_names.py"
-      COMMAND Python3::Interpreter -B "${CMAKE_SOURCE_DIR}/script/lib/localised/bundle_names.py"
-              "${file}" "${names}")
+      DEPENDS "${information}" "${file}" "${CMAKE_SOURCE_DIR}/script/lib/localised/bundle_texts.py"
+      COMMAND Python3::Interpreter -B "${CMAKE_SOURCE_DIR}/script/lib/localised/bundle_texts.py"
+              "${information}" "${file}" "${names}")
     bundle_files("Resources/${language}" "${file}" "${names}")
   elseif(IBTOOL)
     cmake_path(GET name STEM stem)

@@ -53,4 +53,13 @@ NSRect lineOf(NSRect frame, NSFont* font) {
                   length:length];
 }
 
+- (void)endEditing:(NSText*)editor {
+  _lastSelection = [editor selectedRange];
+  [super endEditing:editor];
+}
+
+- (NSRange)lastSelection {
+  return _lastSelection;
+}
+
 @end

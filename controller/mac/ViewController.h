@@ -12,14 +12,14 @@ class WindowLogic;
 /// decides nothing: every message is handed on to the logic. Main thread only, but for the messages
 /// of the search and for `getIpAddressWithDomain:manualIP:`.
 ///
-/// The outlets are weak and connected by the layout resource; reading one that is not connected
-/// stops the program.
+/// The outlets are connected by the layout resource. They are weak: one is not connected any more
+/// when its control has gone. Reading one that is not connected stops the program.
 @interface ViewController : NSViewController <NSTextFieldDelegate> {
  @private
-  NSButton* _launchButton;
-  NSTextField* _infoLabel;
-  NSTextField* _vorxLocation;
-  NSTextField* _ipAddress;
+  __weak NSButton* _launchButton;
+  __weak NSTextField* _infoLabel;
+  __weak NSTextField* _vorxLocation;
+  __weak NSTextField* _ipAddress;
   NSOperationQueue* _backgroundQueue;
   std::unique_ptr<launcher::WindowLogic> _logic;
 }

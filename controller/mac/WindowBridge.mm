@@ -5,6 +5,7 @@
 #import <QuartzCore/QuartzCore.h>
 
 #import "base/mac/Conversions.h"
+#import "controller/mac/Focus.h"
 #import "controller/mac/ViewController.h"
 
 namespace launcher {
@@ -29,8 +30,20 @@ void setEnabled(NSControl* control, Availability availability) {
   if ([control isEnabled] != isEnabled(availability)) [control setEnabled:isEnabled(availability)];
 }
 
+/// A screen reader says the text, after what it is saying.
+void announce(NSString* text, NSWindow* window) {
+  if (window == nil) return;
+  NSAccessibilityPostNotificationWithUserInfo(
+      window, NSAccessibilityAnnouncementRequestedNotification, @{
+        NSAccessibilityAnnouncementKey : text,
+        NSAccessibilityPriorityKey : @(NSAccessibilityPriorityMedium),
+      });
+}
+
 void setText(NSTextField* label, NSString* text) {
-  if (![[label stringValue] isEqualToString:text]) [label setStringValue:text];
+  if ([[label stringValue] isEqualToString:text]) return;
+  [label setStringValue:text];
+  announce(text, [label window]);
 }
 
 void setTitle(NSButton* button, NSString* title) {
@@ -64,11 +77,17 @@ std::string WindowBridge::vorxLocation() const {
 }
 
 void WindowBridge::setVorxLocation(const std::string& text) {
-  [[controller_ vorxLocation] setStringValue:toNSString(text)];
+  NSTextField* field = [controller_ vorxLocation];
+  [field setStringValue:toNSString(text)];
+  returnFocus(field);
 }
 
 void WindowBridge::setVorxLocation(Availability availability) {
-  setEnabled([controller_ vorxLocation], availability);
+  NSTextField* field = [controller_ vorxLocation];
+  const bool enabled = isEnabled(availability);
+  if (!enabled && [field currentEditor] != nil) takeFocus([field window]);
+  setEnabled(field, availability);
+  if (enabled) returnFocus(field);
 }
 
 std::string WindowBridge::ipAddress() const {
@@ -96,8 +115,11 @@ void WindowBridge::showAlert(const Alert& alert) {
   [panel setMessageText:toNSString(alert.message)];
   [panel setInformativeText:toNSString(alert.informative)];
   [panel addButtonWithTitle:toNSString(alert.button)];
+  [[panel window] setLevel:NSModalPanelWindowLevel];  // above the floating window
   [panel runModal];
   [panel release];
+  // The location field gets the focus when it is enabled.
+  takeFocus([[controller_ view] window]);
 }
 
 std::shared_ptr<void> WindowBridge::keepAlive() { return std::make_shared<Hold>(controller_); }

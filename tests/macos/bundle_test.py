@@ -10,7 +10,16 @@ from product import BUNDLE, CONTENTS, PROGRAM, RESOURCES, ROOT, VIEWER, WINDOW_T
 LANGUAGES = sorted(table.parent.stem
                    for table in (ROOT / "resources").glob("*.lproj/Localizable.strings"))
 
-INFORMATION = {
+FOLDER_REASON = "To find your Vorx, the launcher reads where its disk image was downloaded from."
+REASONS = {
+    "NSDesktopFolderUsageDescription": FOLDER_REASON,
+    "NSDocumentsFolderUsageDescription": FOLDER_REASON,
+    "NSDownloadsFolderUsageDescription": FOLDER_REASON,
+    "NSLocalNetworkUsageDescription":
+        "Remote control connects to your Vorx, which may be on the local network.",
+}
+
+INFORMATION = REASONS | {
     "CFBundleDevelopmentRegion": "en",
     "CFBundleDisplayName": "VorxLauncher",
     "CFBundleExecutable": "VorxLauncher",
@@ -72,18 +81,20 @@ class Bundle(unittest.TestCase):
                 self.assertEqual((RESOURCES / name).read_bytes(),
                                  (ROOT / "resources" / name).read_bytes())
 
-    def test_names(self):
+    def test_names_and_reasons_are_in_the_persons_language(self):
         for language in LANGUAGES:
             with self.subTest(language=language):
                 folder = RESOURCES / f"{language}.lproj"
-                name = table(folder / "Localizable.strings")["Vorx Launcher"]
-                self.assertEqual(table(folder / "InfoPlist.strings"),
-                                 {"CFBundleName": name, "CFBundleDisplayName": name})
+                texts = table(folder / "Localizable.strings")
+                said = {"CFBundleName": texts["Vorx Launcher"],
+                        "CFBundleDisplayName": texts["Vorx Launcher"]}
+                said |= {name: texts[reason] for name, reason in REASONS.items()}
+                self.assertEqual(table(folder / "InfoPlist.strings"), said)
 
     def test_window_tests_meet_the_same_resources(self):
         self.assertEqual((WINDOW_TESTS / "Resources").resolve(), RESOURCES)
         information = plistlib.loads((WINDOW_TESTS / "Info.plist").read_bytes())
-        self.assertEqual(information["CFBundleExecutable"], "window-tests")
+        self.assertEqual(information["CFBundleExecutable"], "appkit-window-tests")
 
     def test_icon(self):
         self.assertEqual((RESOURCES / "VorxLauncher.icns").read_bytes()[:4], b"icns")

@@ -15,11 +15,15 @@ FIRST_RESPONDER = "-1"
 PLATFORM_CLASSES = {"NSApplication", "NSObject", "FirstResponder"}
 PLATFORM_OUTLETS = {"contentViewController", "delegate", "nextKeyView", "view"}
 
-# What people expect of a menu on macOS, sent to whatever has the focus.
+# What people expect of the menus on macOS, sent to whatever has the focus.
 MENU_ACTIONS = {
-    "orderFrontStandardAboutPanel:", "hide:", "terminate:", "undo:", "cut:", "copy:", "paste:",
-    "selectAll:", "performMiniaturize:", "performClose:",
+    "hide:", "hideOtherApplications:", "unhideAllApplications:", "terminate:", "undo:", "redo:",
+    "cut:", "copy:", "paste:", "selectAll:", "performClose:", "performMiniaturize:", "performZoom:",
+    "arrangeInFront:",
 }
+
+# What layout files of Xcode's never hold where there is no Auto Layout.
+FOREIGN_ATTRIBUTES = {"useAutolayout", "fixedFrame"}
 
 
 def setUpModule():
@@ -129,10 +133,41 @@ class Layouts(unittest.TestCase):
         self.assertIn("launchButtonClick:", self.messages["ViewController"])
 
     def test_menu_is_complete(self):
-        actions = {element.get("selector"): element.get("target")
-                   for element in layout("MainMenu").iter("action")}
-        self.assertLessEqual(MENU_ACTIONS, actions.keys())
-        self.assertEqual(set(actions.values()), {FIRST_RESPONDER})
+        actions = {element.get("selector") for element in layout("MainMenu").iter("action")
+                   if element.get("target") == FIRST_RESPONDER}
+        self.assertEqual(actions, MENU_ACTIONS)
+
+    def test_about_shows_our_panel(self):
+        root = layout("MainMenu")
+        [(action, target)] = [(element.get("selector"), element.get("target"))
+                              for element in root.iter("action")
+                              if element.get("target") != FIRST_RESPONDER]
+        self.assertEqual(root.find(f".//*[@id='{target}']").get("customClass"), "AboutPanel")
+        self.assertIn(action, self.messages["AboutPanel"])
+
+    def test_the_system_fills_its_menus(self):
+        menus = {element.get("systemMenu") for element in layout("MainMenu").iter("menu")} - {None}
+        self.assertEqual(menus, {"main", "apple", "services", "window"})
+
+    def test_the_window_is_not_restored_and_stays_among_the_other_ones(self):
+        """A floating window would be left out of Mission Control and of the window cycle."""
+        window = layout("MainMenu").find(".//window")
+        self.assertEqual(window.get("restorable"), "NO")
+        self.assertEqual(window.find("windowCollectionBehavior").attrib, {
+            "key": "collectionBehavior", "managed": "YES", "participatesInCycle": "YES"})
+
+    def test_fields_are_named_by_their_labels(self):
+        cells = layout("ViewController").iter("textFieldCell")
+        labels = {cell.get("title") for cell in cells if cell.get("title")}
+        spoken = [element.get("description") for element in layout("ViewController").iter("accessibility")]
+        self.assertEqual(spoken, ["Vorx location", "IP address"])
+        self.assertLessEqual(set(spoken), labels)
+
+    def test_layouts_hold_what_those_of_xcode_hold(self):
+        for path in LAYOUTS.glob("*.xib"):
+            with self.subTest(layout=path.name):
+                attributes = {name for element in layout(path.stem).iter() for name in element.attrib}
+                self.assertEqual(attributes & FOREIGN_ATTRIBUTES, set())
 
     def test_fields_show_the_colour_of_their_layer(self):
         """A field that draws a background of its own would hide it."""

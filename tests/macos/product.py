@@ -12,9 +12,9 @@ RESOURCES = CONTENTS / "Resources"
 PROGRAM = CONTENTS / "MacOS" / "VorxLauncher"
 VIEWER = RESOURCES / "bin" / "vexlink"
 TESTS = BUILD / "tests"
-WINDOW_TESTS = TESTS / "window-tests.app" / "Contents"
+WINDOW_TESTS = TESTS / "appkit-window-tests.app" / "Contents"
 TEST_PROGRAMS = [TESTS / "unit-tests", TESTS / "contract-tests",
-                 WINDOW_TESTS / "MacOS" / "window-tests"]
+                 WINDOW_TESTS / "MacOS" / "appkit-window-tests"]
 
 ARCHITECTURES = ["arm64", "x86_64"]
 

@@ -16,6 +16,14 @@ LAYOUT = """<?xml version="1.0" encoding="UTF-8"?>
 <menuItem title="Not in the table"/></window></document>
 """
 TABLE = '/* Button */ "Launch" = "Avvia & via"; "Say “hi”" = "Di’ \\"ciao\\""; "Vorx Launcher" = "Vorx-\\"L\\"";'
+INFORMATION = """<?xml version="1.0" encoding="UTF-8"?>
+<plist version="1.0"><dict>
+<key>CFBundleDisplayName</key><string>VorxLauncher</string>
+<key>CFBundleName</key><string>Vorx Launcher</string>
+<key>CFBundleVersion</key><string>${VERSION}</string>
+<key>NSLocalNetworkUsageDescription</key><string>Launch</string>
+</dict></plist>
+"""
 
 
 class BuildStepsTest(unittest.TestCase):
@@ -41,7 +49,8 @@ class BuildStepsTest(unittest.TestCase):
         self.assertIn(b'id="Launch"', written)
         self.assertIn(b'placeholderString="Launch"', written)
 
-    def test_macos_shows_the_programs_name_in_the_language(self):
-        written = self.run_step("bundle_names", strings=TABLE)
-        self.assertEqual({entry.key: entry.text for entry in parse(decode(written))},
-                         {"CFBundleDisplayName": 'Vorx-"L"', "CFBundleName": 'Vorx-"L"'})
+    def test_macos_says_the_tables_texts_of_the_application(self):
+        written = self.run_step("bundle_texts", plist=INFORMATION, strings=TABLE)
+        self.assertEqual({entry.key: entry.text for entry in parse(decode(written))}, {
+            "CFBundleDisplayName": 'Vorx-"L"', "CFBundleName": 'Vorx-"L"',
+            "NSLocalNetworkUsageDescription": "Avvia & via"})

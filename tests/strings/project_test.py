@@ -4,7 +4,7 @@ import pathlib
 import unittest
 
 from faults import faults, faults_of_english
-from localised.shown import texts_of_code, texts_of_layout
+from localised.shown import texts_of_code, texts_of_information, texts_of_layout
 from localised.tables import decode, parse
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
@@ -17,14 +17,15 @@ def read(language):
 
 
 def comments_of_what_is_shown():
-    """The code brings its comments along; those of the layout are the English table's."""
+    """The code brings its comments along; the other ones are the English table's."""
     of_code = {}
     for path in sorted(ROOT.glob("controller/**/*.[hc]*")):
         of_code |= texts_of_code(path.read_text(encoding="utf-8"))
     of_english = {entry.key: entry.comment for entry in read("en")}
-    of_layout = {text: of_english.get(text) for xib in sorted(RESOURCES.glob("**/*.xib"))
-                 for text in texts_of_layout(xib.read_bytes())}
-    return of_layout | of_code
+    layouts = sorted(RESOURCES.glob("**/*.xib"))
+    elsewhere = {text for xib in layouts for text in texts_of_layout(xib.read_bytes())}
+    elsewhere |= set(texts_of_information((RESOURCES / "Info.plist").read_bytes()).values())
+    return {text: of_english.get(text) for text in elsewhere} | of_code
 
 
 class ProjectTest(unittest.TestCase):
@@ -36,6 +37,13 @@ class ProjectTest(unittest.TestCase):
         shown = comments_of_what_is_shown()
         self.assertEqual(shown["Re-Launch"], "Re-Launch button")
         self.assertIn("Quit Vorx Launcher", shown)
+
+    def test_every_reason_for_an_access_was_read(self):
+        named = texts_of_information((RESOURCES / "Info.plist").read_bytes())
+        self.assertEqual(set(named), {
+            "CFBundleDisplayName", "CFBundleName", "NSDesktopFolderUsageDescription",
+            "NSDocumentsFolderUsageDescription", "NSDownloadsFolderUsageDescription",
+            "NSLocalNetworkUsageDescription"})
 
     def test_tables_agree_with_code_and_layout(self):
         comments = comments_of_what_is_shown()

@@ -1,5 +1,6 @@
-"""What the program shows: the texts of its code and of its layout files."""
+"""What the program shows: the texts of its code, of its layout files and of its Info.plist."""
 
+import plistlib
 import re
 import xml.etree.ElementTree
 
@@ -37,3 +38,11 @@ def texts_of_layout(xib):
     elements = xml.etree.ElementTree.fromstring(xib).iter()
     texts = {element.get(name) for element in elements for name in shown_attributes(element)}
     return texts - {None, ""}
+
+
+def texts_of_information(plist):
+    """An Info.plist's name → the key of the text that macOS shows for it."""
+    information = plistlib.loads(plist)
+    names = dict.fromkeys(["CFBundleDisplayName", "CFBundleName"], information["CFBundleName"])
+    reasons = {name: text for name, text in information.items() if name.endswith("UsageDescription")}
+    return names | reasons

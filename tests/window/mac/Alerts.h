@@ -22,8 +22,8 @@ namespace launcher {
 /// The texts that the alert shows, and its buttons' titles.
 std::vector<std::string> alertTexts();
 
-/// Presses a key in the alert, as a person does.
+/// Presses Return as a person does: in the alert, or in a window.
 void pressReturn();
-void pressEscape();
+void pressReturnIn(NSWindow* window);
 
 }  // namespace launcher

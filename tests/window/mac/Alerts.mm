@@ -47,20 +47,6 @@ void addTexts(NSView* view, Texts& texts) {
   for (NSView* part in [view subviews]) addTexts(part, texts);
 }
 
-void press(NSString* character, unsigned short keyCode) {
-  NSEvent* event = [NSEvent keyEventWithType:NSEventTypeKeyDown
-                                    location:NSZeroPoint
-                               modifierFlags:0
-                                   timestamp:0
-                                windowNumber:[[NSApp modalWindow] windowNumber]
-                                     context:nil
-                                  characters:character
-                 charactersIgnoringModifiers:character
-                                   isARepeat:NO
-                                     keyCode:keyCode];
-  [NSApp postEvent:event atStart:NO];
-}
-
 }  // namespace
 
 Texts alertTexts() {
@@ -69,8 +55,20 @@ Texts alertTexts() {
   return texts;
 }
 
-void pressReturn() { press(@"\r", 36); }
+void pressReturn() { pressReturnIn([NSApp modalWindow]); }
 
-void pressEscape() { press(@"\x1b", 53); }
+void pressReturnIn(NSWindow* window) {
+  NSEvent* event = [NSEvent keyEventWithType:NSEventTypeKeyDown
+                                    location:NSZeroPoint
+                               modifierFlags:0
+                                   timestamp:0
+                                windowNumber:[window windowNumber]
+                                     context:nil
+                                  characters:@"\r"
+                 charactersIgnoringModifiers:@"\r"
+                                   isARepeat:NO
+                                     keyCode:36];
+  [NSApp postEvent:event atStart:NO];
+}
 
 }  // namespace launcher

@@ -1,5 +1,6 @@
 #import "tests/window/mac/Windows.h"
 
+#include "base/FatalError.h"
 #import "tests/window/mac/Stage.h"
 
 namespace launcher {
@@ -21,6 +22,7 @@ LauncherWindowOnScreen::LauncherWindowOnScreen() {
   [nib instantiateWithOwner:NSApp topLevelObjects:&objects_];
   [objects_ retain];
   window_ = [newWindowBesides(before) retain];
+  if (window_ == nil) fatalError("no window in the layout resource", "Windows", __LINE__);
   finishWork(controller());
   [NSApp activateIgnoringOtherApps:YES];
   [window_ makeKeyAndOrderFront:nil];

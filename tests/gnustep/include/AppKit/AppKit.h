@@ -4,6 +4,10 @@
 
 #include_next <AppKit/AppKit.h>
 
+// This runtime has no weak references: an outlet whose control has gone dangles.
+#undef __weak
+#define __weak
+
 // Names that came later.
 #define NSEventMaskAny NSAnyEventMask
 #define NSEventTypeKeyDown NSKeyDown

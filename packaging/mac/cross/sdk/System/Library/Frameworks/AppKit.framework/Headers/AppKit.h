@@ -2,6 +2,7 @@
 
 #import <Foundation/Foundation.h>
 
+#import <AppKit/NSAccessibility.h>
 #import <AppKit/NSAlert.h>
 #import <AppKit/NSApplication.h>
 #import <AppKit/NSCell.h>

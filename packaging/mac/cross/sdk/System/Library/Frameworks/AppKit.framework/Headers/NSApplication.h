@@ -34,6 +34,7 @@ FOUNDATION_EXPORT @interface NSApplication : NSResponder
 - (void)activateIgnoringOtherApps:(BOOL)flag
     API_DEPRECATED("Use activate", macos(10.0, API_TO_BE_DEPRECATED));
 - (void)finishLaunching;
+- (void)orderFrontStandardAboutPanel:(nullable id)sender;
 - (nullable NSEvent*)nextEventMatchingMask:(NSEventMask)mask
                         untilDate:(nullable NSDate*)expiration
                            inMode:(NSRunLoopMode)mode

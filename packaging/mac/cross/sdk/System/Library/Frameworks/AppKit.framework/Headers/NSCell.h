@@ -28,6 +28,7 @@ FOUNDATION_EXPORT @interface NSCell : NSObject <NSCopying, NSCoding>
                delegate:(nullable id)delegate
                   start:(NSInteger)start
                  length:(NSInteger)length;
+- (void)endEditing:(NSText*)editor;
 @end
 
 FOUNDATION_EXPORT @interface NSActionCell : NSCell

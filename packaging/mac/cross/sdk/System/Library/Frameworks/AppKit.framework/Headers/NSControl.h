@@ -6,10 +6,13 @@
 NS_ASSUME_NONNULL_BEGIN
 
 @class NSColor;
-@class NSText;
 @protocol NSTextFieldDelegate;
 
 FOUNDATION_EXPORT const NSNotificationName NSControlTextDidChangeNotification;
+
+FOUNDATION_EXPORT @interface NSText : NSView
+@property NSRange selectedRange;
+@end
 
 FOUNDATION_EXPORT @interface NSControl : NSView
 @property(getter=isEnabled) BOOL enabled;

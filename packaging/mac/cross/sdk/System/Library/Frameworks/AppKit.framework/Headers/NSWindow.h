@@ -9,6 +9,7 @@ NS_ASSUME_NONNULL_BEGIN
 typedef NSInteger NSWindowLevel;
 static const NSWindowLevel NSNormalWindowLevel = 0;
 static const NSWindowLevel NSFloatingWindowLevel = 3;
+static const NSWindowLevel NSModalPanelWindowLevel = 8;
 
 typedef NS_OPTIONS(NSUInteger, NSWindowStyleMask) {
   NSWindowStyleMaskTitled = 1 << 0,
@@ -34,9 +35,11 @@ FOUNDATION_EXPORT @interface NSWindow : NSResponder
 @property(readonly) NSRect frame;
 @property(readonly) NSInteger windowNumber;
 @property(readonly, getter=isKeyWindow) BOOL keyWindow;
+@property(readonly, getter=isVisible) BOOL visible;
 @property(nullable, readonly, assign) NSResponder* firstResponder;
 @property(nullable, assign) NSView* initialFirstResponder;
 - (void)center;
+- (BOOL)makeFirstResponder:(nullable NSResponder*)responder;
 - (void)orderFront:(nullable id)sender;
 - (void)orderOut:(nullable id)sender;
 - (void)setFrame:(NSRect)frame display:(BOOL)display;

@@ -8,6 +8,7 @@ FOUNDATION_EXPORT @interface NSValue : NSObject <NSCopying>
 @end
 
 FOUNDATION_EXPORT @interface NSNumber : NSValue
++ (NSNumber*)numberWithInteger:(NSInteger)value;
 + (NSNumber*)numberWithBool:(BOOL)value;
 + (NSNumber*)numberWithInt:(int)value;
 @end

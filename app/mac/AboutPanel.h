@@ -1,0 +1,11 @@
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+/// Shows the platform's "About" panel above the launcher's floating window, which would hide it.
+/// Made by the layout resource.
+@interface AboutPanel : NSObject
+
+- (IBAction)show:(id)sender;
+
+@end

@@ -1,0 +1,115 @@
+// Where the keys go: the focus is never lost.
+
+#include <gtest/gtest.h>
+
+#import "controller/mac/WindowBridge.h"
+#import "tests/window/mac/Alerts.h"
+#import "tests/window/mac/Stage.h"
+#import "tests/window/mac/Windows.h"
+
+namespace launcher {
+namespace {
+
+class FocusTest : public testing::Test {
+ protected:
+  void SetUp() override { clearStage(); }
+
+  NSTextField* location() { return [shown_.controller() vorxLocation]; }
+  NSTextField* ip() { return [shown_.controller() ipAddress]; }
+  void setLocation(Availability availability) {
+    WindowBridge(shown_.controller()).setVorxLocation(availability);
+  }
+  void select(NSUInteger start, NSUInteger length) {
+    [[location() currentEditor] setSelectedRange:NSMakeRange(start, length)];
+  }
+  bool isSelected(NSUInteger start, NSUInteger length) {
+    return NSEqualRanges([[location() currentEditor] selectedRange], NSMakeRange(start, length));
+  }
+
+  LauncherWindowOnScreen shown_;
+};
+
+TEST_F(FocusTest, ADisabledFieldIsNotEditedAndKeepsItsText) {
+  type(shown_.window(), @"https://h/");
+  setLocation(Availability::disabled);
+  EXPECT_EQ([location() currentEditor], nil);
+  EXPECT_EQ(textOf(location()), "https://h/");
+}
+
+TEST_F(FocusTest, AFieldHasItBackWithItsSelection) {
+  type(shown_.window(), @"https://h/");
+  select(3, 4);
+  setLocation(Availability::disabled);
+  setLocation(Availability::enabled);
+  EXPECT_TRUE(isSelected(3, 4));
+}
+
+TEST_F(FocusTest, AnEnabledFieldThatIsEnabledKeepsItsSelection) {
+  type(shown_.window(), @"https://h/");
+  select(3, 4);
+  setLocation(Availability::enabled);
+  EXPECT_TRUE(isSelected(3, 4));
+}
+
+TEST_F(FocusTest, StaysWhereThePersonWentMeanwhile) {
+  setLocation(Availability::disabled);
+  [shown_.window() makeFirstResponder:ip()];
+  setLocation(Availability::enabled);
+  EXPECT_NE([ip() currentEditor], nil);
+  EXPECT_EQ([location() currentEditor], nil);
+}
+
+TEST_F(FocusTest, StaysInTheFieldThatIsNotDisabled) {
+  tab(shown_.window());
+  type(shown_.window(), @"10.0.0.5");
+  setLocation(Availability::disabled);
+  EXPECT_NE([ip() currentEditor], nil);
+  setLocation(Availability::enabled);
+  EXPECT_NE([ip() currentEditor], nil);
+}
+
+TEST_F(FocusTest, ALaunchGivesItBack) {
+  type(shown_.window(), @"https://h/");
+  stage().resolver.answer = {ipv4("192.0.2.1")};
+  [[shown_.controller() launchButton] performClick:nil];
+  finishWork(shown_.controller());
+  ASSERT_EQ(stage().starter.starts.size(), 1U);
+  EXPECT_NE([location() currentEditor], nil);
+}
+
+TEST_F(FocusTest, ReturnGivesItBackWithTheSelection) {
+  type(shown_.window(), @"https://h/");
+  select(10, 0);
+  stage().resolver.answer = {ipv4("192.0.2.1")};
+  pressReturnIn(shown_.window());
+  EXPECT_TRUE(eventually([] { return stage().starter.starts.size() == 1; }));
+  finishWork(shown_.controller());
+  EXPECT_NE([location() currentEditor], nil);
+  EXPECT_TRUE(isSelected(10, 0));
+}
+
+TEST_F(FocusTest, AFoundLocationDoesNotTakeItAway) {
+  ASSERT_NE([location() currentEditor], nil);
+  [shown_.controller() updateSourceLocationWithSource:@"https://h/"];
+  settle();
+  EXPECT_NE([location() currentEditor], nil);
+  EXPECT_EQ(textOf(location()), "https://h/");
+}
+
+/// Even where the address was edited before, so that the next key edits the location.
+TEST_F(FocusTest, AfterTheAlertItIsInTheLocationField) {
+  type(shown_.window(), @"https://nohost.invalid/");
+  select(8, 6);
+  tab(shown_.window());
+  type(shown_.window(), @"10");
+  [DuringAlert after:0.1 do:[] { pressReturn(); }];
+  [shown_.controller() launchButtonClick:nil];
+  finishWork(shown_.controller());
+  EXPECT_TRUE(isSelected(8, 6));
+  EXPECT_EQ(textOf(ip()), "10");
+  type(shown_.window(), @"vorx");
+  EXPECT_EQ(textOf(location()), "https://vorx.invalid/");
+}
+
+}  // namespace
+}  // namespace launcher
