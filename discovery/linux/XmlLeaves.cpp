@@ -3,10 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
-#include <string>
 #include <system_error>
-
-#include "discovery/PropertyListLimits.h"
 
 namespace launcher {
 namespace {
@@ -17,6 +14,8 @@ std::string_view withoutBlanks(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
   return text;
 }
+
+}  // namespace
 
 bool isInteger(std::string_view text) {
   text = withoutBlanks(text);
@@ -47,18 +46,6 @@ bool isDate(std::string_view text) {
                     [](char character, char expected) {
                       return expected == 'd' ? isDigit(character) : character == expected;
                     });
-}
-
-bool passes(std::string_view element, std::string_view text) {
-  if (element == "integer") return isInteger(text);
-  if (element == "real") return isReal(text);
-  return element != "date" || isDate(text);
-}
-
-}  // namespace
-
-void checkLeaf(std::string_view element, std::string_view text) {
-  if (!passes(element, text)) throw UnreadableList("no " + std::string(element));
 }
 
 }  // namespace launcher

@@ -20,42 +20,68 @@
 namespace launcher {
 namespace {
 
-template <std::size_t size>
-bool isOneOf(std::string_view name, const std::array<std::string_view, size>& names) {
-  return std::find(names.begin(), names.end(), name) != names.end();
+enum class Kind { list, array, dictionary, key, text, integer, real, date, data, constant };
+
+Kind kindOf(std::string_view name) {
+  constexpr std::array<std::pair<std::string_view, Kind>, 11> kKinds = {{{"key", Kind::key},
+                                                                         {"string", Kind::text},
+                                                                         {"dict", Kind::dictionary},
+                                                                         {"array", Kind::array},
+                                                                         {"integer", Kind::integer},
+                                                                         {"real", Kind::real},
+                                                                         {"date", Kind::date},
+                                                                         {"data", Kind::data},
+                                                                         {"true", Kind::constant},
+                                                                         {"false", Kind::constant},
+                                                                         {"plist", Kind::list}}};
+  for (const auto& [known, kind] : kKinds) {
+    if (name == known) return kind;
+  }
+  throw UnreadableList("an unknown element");
 }
 
 /// An element that is open, and what it holds so far.
 struct Element {
-  std::string name;
+  explicit Element(Kind elementKind) : kind(elementKind) {}
+
+  Kind kind;
   std::string text;
   PropertyList::Array values;
   std::optional<std::string> key;  ///< whose value is still to come
   PropertyList::Dictionary entries;
 
-  /// Whether it holds characters, and no elements.
-  bool isText() const {
-    constexpr std::array<std::string_view, 6> kNames = {"string",  "key",  "data",
-                                                        "integer", "real", "date"};
-    return isOneOf(name, kNames);
-  }
-
   bool holdsElements() const {
-    constexpr std::array<std::string_view, 3> kNames = {"plist", "array", "dict"};
-    return isOneOf(name, kNames);
+    return kind == Kind::list || kind == Kind::array || kind == Kind::dictionary;
   }
 
-  bool isKnown() const { return isText() || holdsElements() || name == "true" || name == "false"; }
+  bool holdsText() const { return !holdsElements() && kind != Kind::constant; }
 
-  void add(std::string_view child, PropertyList value) {
-    if (name != "dict") {
+  void add(Kind childKind, PropertyList value) {
+    if (kind != Kind::dictionary) {
       values.push_back(std::move(value));
     } else if (key) {
       entries.emplace_back(*std::exchange(key, std::nullopt), std::move(value));
-    } else if (child == "key") {
+    } else if (childKind == Kind::key) {
       key = *value.text();
     } else {
       throw UnreadableList("a value without a key");
+    }
+  }
+
+  PropertyList takeValue() {
+    switch (kind) {
+      case Kind::list:
+        return takeOnlyValue();
+      case Kind::array:
+        return {std::move(values)};
+      case Kind::dictionary:
+        return takeDictionary();
+      case Kind::key:
+      case Kind::text:
+        return {std::move(text)};
+      default:
+        checkOther();
+        return {};
     }
   }
 
@@ -64,20 +90,18 @@ struct Element {
     return std::move(values.front());
   }
 
-  PropertyList takeValue() {
-    if (name == "plist") return takeOnlyValue();
-    if (name == "array") return {std::move(values)};
-    if (name == "dict") return takeDictionary();
-    if (name == "string" || name == "key") return {std::move(text)};
-    checkLeaf(name, text);
-    return {};
-  }
-
   /// In XML the last of two equal keys counts, in a dictionary the first.
   PropertyList takeDictionary() {
     if (key) throw UnreadableList("a key without a value");
     std::reverse(entries.begin(), entries.end());
     return {std::move(entries)};
+  }
+
+  /// Nobody asks for numbers and dates. But a list is read on every platform, or on none.
+  void checkOther() const {
+    if (kind == Kind::integer && !isInteger(text)) throw UnreadableList("no integer");
+    if (kind == Kind::real && !isReal(text)) throw UnreadableList("no real number");
+    if (kind == Kind::date && !isDate(text)) throw UnreadableList("no date");
   }
 };
 
@@ -88,13 +112,12 @@ class XmlReader {
     if (!open_.back().holdsElements()) throw UnreadableList("an element in one that holds none");
     checkDepth(static_cast<int>(open_.size()));
     count(valueMemory(0));
-    open_.push_back({std::string(name), {}, {}, {}, {}});
-    if (!open_.back().isKnown()) throw UnreadableList("an unknown element");
+    open_.emplace_back(kindOf(name));
   }
 
   void addText(std::string_view text) {
     Element& element = open_.back();
-    if (element.isText()) {
+    if (element.holdsText()) {
       count(text.size());
       element.text += text;
     } else if (text.find_first_not_of(" \t\r\n") != std::string_view::npos) {
@@ -105,12 +128,12 @@ class XmlReader {
   void end() {
     Element element = std::move(open_.back());
     open_.pop_back();
-    open_.back().add(element.name, element.takeValue());
+    open_.back().add(element.kind, element.takeValue());
   }
 
   /// A comment or an instruction.
   void interrupt() {
-    if (open_.back().isText()) throw UnreadableList("a comment in a text");
+    if (open_.back().holdsText()) throw UnreadableList("a comment in a text");
   }
 
   PropertyList takeValue() { return open_.back().takeOnlyValue(); }
@@ -121,7 +144,7 @@ class XmlReader {
     checkMemory(memory_);
   }
 
-  std::vector<Element> open_{{"plist", {}, {}, {}, {}}};  ///< the first one is the document
+  std::vector<Element> open_{Element(Kind::list)};  ///< the first one is the document
   std::size_t memory_ = 0;
 };
 
