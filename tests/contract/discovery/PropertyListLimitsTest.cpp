@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -38,6 +39,20 @@ TEST(PropertyListLimitsTest, ReferenceBombsAreRefused) {
   EXPECT_EQ(errorOf(referenceBomb(5).bytes()), "");
   EXPECT_EQ(errorOf(referenceBomb(6).bytes()), "too many values");
   EXPECT_EQ(errorOf(referenceBomb(200).bytes()), "too many values");
+}
+
+TEST(PropertyListLimitsTest, ACountThatOverflowsIsRefused) {
+  constexpr std::uint64_t kLevels = 62;
+  BinaryList list;
+  for (std::uint64_t level = 1; level <= kLevels; ++level) {
+    list.objects.push_back(list.array({level, level}));
+  }
+  list.objects.emplace_back("\x09");
+  // In 64 bits all of them together count as -64 bytes, and two more arrays around them as 64.
+  list.objects.push_back(list.array({0}));
+  list.objects.push_back(list.array({kLevels + 1}));
+  list.top = kLevels + 2;
+  EXPECT_EQ(errorOf(list.bytes()), "too many values");
 }
 
 TEST(PropertyListLimitsTest, SharedTextsCountEachTime) {
@@ -81,6 +96,15 @@ TEST(PropertyListLimitsTest, TenThousandImagesAreRead) {
   ASSERT_TRUE(reading.value) << reading.error;
   const PropertyList* images = valueAt(*reading.value->dictionary(), "images");
   EXPECT_EQ(images->array()->size(), 10'000U);
+}
+
+TEST(PropertyListLimitsTest, TextsCountBesideTheirValues) {
+  std::string values;
+  for (int value = 0; value < 350'000; ++value) values += "<true/>";
+  EXPECT_EQ(errorOf("<array>" + values + "<string>a</string></array>"), "");
+  const std::string text(12U << 20U, 'a');
+  EXPECT_EQ(errorOf("<array>" + values + "<string>" + text + "</string></array>"),
+            "too many values");
 }
 
 TEST(PropertyListLimitsTest, SixteenMegabytesAreRead) {

@@ -41,10 +41,11 @@ TEST(ListingTextTest, PrintsAPropertyList) {
             "</plist>\n");
 }
 
-/// The mount point of the only entity that the printed list holds.
+/// The mount point of the only entity that the printed list holds, or why there is none.
 std::string mountPointReadBack(const std::string& mountPoint) {
   const PropertyListReading reading =
       readPropertyList(propertyListOf({{"/a.dmg", {{"/dev/loop0", mountPoint}}}}));
+  if (!reading.value) return reading.error;
   const PropertyList& image = valueAt(*reading.value->dictionary(), "images")->array()->front();
   const PropertyList& entity = valueAt(*image.dictionary(), "system-entities")->array()->front();
   return *valueAt(*entity.dictionary(), "mount-point")->text();
