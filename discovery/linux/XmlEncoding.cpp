@@ -1,6 +1,5 @@
 #include "discovery/linux/XmlEncoding.h"
 
-#include <expat.h>
 #include <iconv.h>
 #include <strings.h>
 
@@ -35,27 +34,21 @@ std::string_view withoutBlanks(std::string_view document) {
   return document;
 }
 
-/// The encoding that the document's declaration names, else UTF-8.
+/// The encoding that the document's declaration names, else UTF-8. Whether the declaration is right
+/// is for the parser to say.
 std::string declaredEncoding(std::string_view document) {
-  constexpr std::size_t kLongestDeclaration = 200;
   if (!document.starts_with("<?xml")) return kUtf8;
-  const std::unique_ptr<XML_ParserStruct, void (*)(XML_Parser)> parser(XML_ParserCreate(kUtf8),
-                                                                       XML_ParserFree);
-  std::string name = kUtf8;
-  XML_SetUserData(parser.get(), &name);
-  XML_SetXmlDeclHandler(parser.get(),
-                        [](void* found, const XML_Char*, const XML_Char* encoding, int) {
-                          if (encoding != nullptr) *static_cast<std::string*>(found) = encoding;
-                        });
-  const std::string_view start = document.substr(0, kLongestDeclaration);
-  XML_Parse(parser.get(), start.data(), static_cast<int>(start.size()), XML_FALSE);
-  return name;
+  std::string_view rest = document.substr(0, document.find("?>"));
+  rest.remove_prefix(std::min(rest.find("encoding"), rest.size()));
+  rest.remove_prefix(std::min(rest.find_first_of("\"'"), rest.size()));
+  if (rest.empty()) return kUtf8;
+  return std::string(rest.substr(1, rest.find(rest.front(), 1) - 1));
 }
 
 std::string inUtf8From(const std::string& encoding, std::string_view bytes) {
   const iconv_t opened = iconv_open(kUtf8, encoding.c_str());
   const bool isKnown = opened != iconv_t(-1);  // NOLINT: so the function tells of a failure
-  if (!isKnown) throw UnreadableList("an unknown encoding: " + encoding);
+  if (!isKnown) throw UnreadableList("an unknown encoding: " + encoding.substr(0, 40));
   const std::unique_ptr<void, int (*)(iconv_t)> conversion(opened, iconv_close);
 
   std::string text;
@@ -67,7 +60,7 @@ std::string inUtf8From(const std::string& encoding, std::string_view bytes) {
     std::size_t room = piece.size();
     const std::size_t answer = iconv(conversion.get(), &input, &left, &output, &room);
     const bool isFull = answer == ~std::size_t{0} && errno == E2BIG;
-    if (left > 0 && !isFull) throw UnreadableList("bytes that are no " + encoding);
+    if (left > 0 && !isFull) throw UnreadableList("bytes that are no " + encoding.substr(0, 40));
     text.append(piece.data(), piece.size() - room);
     if (text.size() > kMostListBytes) throw UnreadableList("more than 16 MB");
   }

@@ -60,7 +60,8 @@ struct Element {
     if (kind != Kind::dictionary) {
       values.push_back(std::move(value));
     } else if (key) {
-      entries.emplace_back(*std::exchange(key, std::nullopt), std::move(value));
+      entries.emplace_back(std::move(*key), std::move(value));
+      key.reset();
     } else if (childKind == Kind::key) {
       key = *value.text();
     } else {
@@ -105,6 +106,8 @@ struct Element {
   }
 };
 
+bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
+
 /// What the parser finds, one thing after another, and the value that comes of it.
 class XmlReader {
  public:
@@ -120,15 +123,16 @@ class XmlReader {
     if (element.holdsText()) {
       count(text.size());
       element.text += text;
-    } else if (text.find_first_not_of(" \t\r\n") != std::string_view::npos) {
+    } else if (!std::all_of(text.begin(), text.end(), isBlank)) {
       throw UnreadableList("a text where elements belong");
     }
   }
 
   void end() {
-    Element element = std::move(open_.back());
+    const Kind kind = open_.back().kind;
+    PropertyList value = open_.back().takeValue();
     open_.pop_back();
-    open_.back().add(element.kind, element.takeValue());
+    open_.back().add(kind, std::move(value));
   }
 
   /// A comment or an instruction.
