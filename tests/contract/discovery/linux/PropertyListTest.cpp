@@ -101,6 +101,13 @@ TEST(PropertyListLinuxTest, EntityBombsAreRefused) {
   EXPECT_EQ(describedReading(entityBomb()), "error");
 }
 
+TEST(PropertyListLinuxTest, TellsTheFirstThingThatIsWrong) {
+  EXPECT_EQ(errorOf("<unknown/>"), "an unknown element");
+  EXPECT_EQ(errorOf("<array><string>a<b/></string>c</array>"), "an element in one that holds none");
+  EXPECT_EQ(errorOf("<array><integer>1x</integer><unknown/>"), "no integer");
+  EXPECT_EQ(errorOf("<array/>more"), "junk after document element");
+}
+
 TEST(PropertyListLinuxTest, LoneSurrogatesAreRefused) {
   EXPECT_EQ(errorOf("\xFE\xFF"s + "\0<\0a\0r\0r\0a\0y\0/\0>"s), "");
   for (const char* half : {"\xD8\x3D", "\xDC\x3D"}) {
