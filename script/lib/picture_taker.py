@@ -11,16 +11,16 @@ import subprocess
 import sys
 import tempfile
 
+from desktop import screen_reader
 from desktop.attached_image import attached
 from desktop.download import ORIGIN
-from desktop.launcher import PROGRAM, LauncherWindow
+from desktop.launcher import (LOOKING_UP, NO_URL, PROGRAM, READY, RUNNING_READY, Launcher)
 from desktop.waiting import wait_until
-from desktop.window import Window, windows_of
+from desktop.window import press, type_text, windows_of
 
 BUILD = pathlib.Path(__file__).resolve().parents[2] / "build"
-
-APPLICATION = "VorxLauncher.app"
-VIEWER = "Resources/bin/vexlink"
+APPLICATION = BUILD / "VorxLauncher.app"
+VIEWER = APPLICATION / "Resources/bin/vexlink"
 LOCATION = "https://vorx.berlin.example"
 UNKNOWN_LOCATION = "https://vorx.hamburg.example"
 
@@ -68,80 +68,61 @@ def save(picture, file):
                    input=picture.ppm(), check=True)
 
 
-class Photographer:
+class Photographer(Launcher):
     """A running launcher, and the folder for its pictures."""
 
-    def __init__(self, folder):
+    def __init__(self, process, language, folder):
+        super().__init__(process, language)
         self._folder = folder
-        self.window = LauncherWindow.shown()
 
     def take(self, name, window=None):
-        save(still_picture(window or self.window), self._folder / f"{name}.png")
+        save(still_picture(window or self.on_display), self._folder / f"{name}.png")
 
-    def enter(self, control, text):
-        self.window.click_on(control)
-        self.window.press("ctrl+a", "BackSpace")
-        self.window.type(text)
-
-    @contextlib.contextmanager
-    def changing(self, control):
-        """Waits, after the block, until a control shows something else than before."""
-        before = still_picture(self.window).crop(*self.window.frame(control))
-        yield
-        wait_until(lambda: self.window.picture_of(control) != before, f"{control} changes")
-
-    def alert(self):
-        return Window(wait_until(lambda: windows_of(PROGRAM)[1:], "an alert is shown")[0])
+    def take_in(self, status, name):
+        self.wait_for_status(status)
+        self.take(name)
 
 
 @contextlib.contextmanager
-def launcher(application, language, folder):
+def photographer(application, language, folder):
     locale = LOCALES.get(language, language.replace("-", "_"))
     others = {name: value for name, value in os.environ.items()
               if name != "LANGUAGE" and not name.startswith("LC_")}
     with tempfile.TemporaryDirectory(prefix="home-", dir=BUILD) as home:
-        with running(application / PROGRAM,
-                     env={**others, "HOME": home, "LANG": f"{locale}.UTF-8"}):
-            yield Photographer(folder)
+        environment = {**others, **screen_reader.ENVIRONMENT, "HOME": home, "LANG": f"{locale}.UTF-8"}
+        with running(application / PROGRAM, env=environment) as process:
+            yield Photographer(process, language, folder)
 
 
 def take_typed(language, folder):
-    application = BUILD / APPLICATION
-    with launcher(application, language, folder) as photographer:
-        photographer.take("first")
-        with photographer.changing("infoLabel"):
-            photographer.enter("vorxLocation", LOCATION)
-        photographer.take("valid")
-        with photographer.changing("infoLabel"):
-            photographer.enter("ipAddress", "10.0.0")
-        photographer.take("red")
-        with photographer.changing("infoLabel"):
-            photographer.window.type(".5")
-        photographer.take("green")
-        with photographer.changing("ipAddress"):
-            photographer.enter("ipAddress", "")
-        still_picture(photographer.window)
+    with photographer(APPLICATION, language, folder) as launcher:
+        launcher.take_in(NO_URL, "first")
+        launcher.enter(launcher.location, LOCATION)
+        launcher.take_in(READY, "valid")
+        launcher.enter(launcher.address, "10.0.0")
+        launcher.take_in(NO_URL, "red")
+        type_text(".5")
+        launcher.take_in(READY, "green")
+        press("ctrl+a", "BackSpace")
+        launcher.wait_until(lambda: launcher.address.text == "", "the address is empty")
 
         # A viewer of somebody else is waited for, which keeps what the status line says meanwhile.
-        with running(application / VIEWER, "-l", "", "-i", "", "-r", ""):
-            Window.of("vexlink")
-            with photographer.changing("infoLabel"):
-                photographer.window.click_on("launchButton")
-            photographer.take("looking-up")
-        wait_until(lambda: not windows_of("vexlink"), "the other viewer has gone")
-        Window.of("vexlink")
-        photographer.take("re-launch")
-        with photographer.changing("infoLabel"):
-            photographer.enter("vorxLocation", "")
-        photographer.take("re-launch-disabled")
+        with running(VIEWER, "-l", "", "-i", "", "-r", "") as other:
+            wait_until(lambda: windows_of(other.pid), "the other viewer is shown")
+            launcher.click_on(launcher.button)
+            launcher.take_in(LOOKING_UP, "looking-up")
+        launcher.take_in(RUNNING_READY, "re-launch")
+        launcher.enter(launcher.location, "")
+        launcher.take_in(NO_URL, "re-launch-disabled")
 
 
 def take_alert(language, folder):
-    with launcher(BUILD / APPLICATION, language, folder) as photographer:
-        with photographer.changing("infoLabel"):
-            photographer.enter("vorxLocation", UNKNOWN_LOCATION)
-        photographer.window.press("Return")
-        photographer.take("alert", photographer.alert())
+    with photographer(APPLICATION, language, folder) as launcher:
+        launcher.enter(launcher.location, UNKNOWN_LOCATION)
+        launcher.wait_for_status(READY)
+        press("Return")
+        launcher.wait_for_alert()
+        launcher.take("alert", windows_of(launcher.process.pid)[1])
 
 
 def take_found(language, folder):
@@ -149,9 +130,10 @@ def take_found(language, folder):
         image = pathlib.Path(shutil.copy(BUILD / "VorxLauncher.img", downloads))
         os.setxattr(image, ORIGIN, f"{LOCATION}/VorxLauncher.img".encode())
         with attached(image) as volume:
-            with launcher(pathlib.Path(volume) / APPLICATION, language, folder) as photographer:
-                wait_until(photographer.window.has_location, "the location has been found")
-                photographer.take("found")
+            application = pathlib.Path(volume) / APPLICATION.name
+            with photographer(application, language, folder) as launcher:
+                launcher.wait_for_location()
+                launcher.take_in(READY, "found")
 
 
 def main(language, folder):

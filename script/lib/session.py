@@ -11,15 +11,15 @@ import tempfile
 from desktop.attached_image import NotAllowed, attached
 from desktop.display import VirtualDisplay
 from desktop.download import download, served
-from desktop.failure import Failure
-from desktop.launcher import LauncherWindow
 from desktop.processes import adopt_orphans, end_descendants
-from desktop.waiting import wait_until
+from desktop.waiting import Failure, wait_until
+from desktop.window import windows_of
 
 BUILD = pathlib.Path(__file__).resolve().parents[2] / "build"
 MAC = sys.platform == "darwin"
 IMAGE = BUILD / ("VorxLauncher.dmg" if MAC else "VorxLauncher.img")
 PROGRAM = "VorxLauncher.app/" + ("Contents/MacOS/VorxLauncher" if MAC else "VorxLauncher")
+SCREEN_READER = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 SIGNALS = (signal.SIGINT, signal.SIGTERM, signal.SIGHUP)
 
 
@@ -68,16 +68,20 @@ def started(program):
 
 
 def take_picture(launcher, in_image, file):
-    window = LauncherWindow.shown()
+    """Takes it once the window is shown, and the location found where there is one."""
+    from desktop.screen_reader import FIELD, program  # asks for the bus, which is there by now
 
     def ready():
         if launcher.poll() is not None:
             raise Failure("the launcher has ended before its window was ready")
-        return not in_image or window.has_location()
+        known = program(launcher.pid)
+        location = known and windows_of(launcher.pid) and known.find(FIELD)
+        return location and (not in_image or location.text)
 
-    wait_until(ready, "the location has been found")
-    window.settled_picture()
-    window.save_picture(file)
+    location = wait_until(ready, "the location has been found")
+    if in_image:
+        say(f"Found {location}")
+    windows_of(launcher.pid)[0].save_picture(file)
     say(f"Screenshot: {file}")
 
 
@@ -89,7 +93,7 @@ def run(screenshot):
             stack.callback(end_descendants)
         on_virtual_display = screenshot is not None or not (MAC or "DISPLAY" in os.environ)
         if on_virtual_display:
-            os.environ.update(stack.enter_context(VirtualDisplay()).environment)
+            os.environ.update(stack.enter_context(VirtualDisplay()).environment, **SCREEN_READER)
         launcher = stack.enter_context(started(program))
         if on_virtual_display:
             take_picture(launcher, in_image, screenshot or BUILD / "screenshot.png")

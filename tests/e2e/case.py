@@ -9,25 +9,17 @@ import tempfile
 import unittest
 
 import doubles
-import reading
+from desktop import screen_reader
 from desktop.attached_image import NotAllowed, attached
 from desktop.download import download, served
-from desktop.failure import Failure
-from desktop.launcher import LauncherWindow
+from desktop.launcher import LOOKING_UP, PROGRAM, READY, Launcher
 from desktop.processes import adopt_orphans, descendants, end_descendants, none_left
-from desktop.waiting import wait_until
-from desktop.window import Window, windows_of
+from desktop.waiting import Failure, wait_until
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 BUILD = ROOT / "build"
 APPLICATION = "VorxLauncher.app"
-PROGRAM = "VorxLauncher"
-
-NO_URL = "Enter valid Vorx location to enable launch button"
-READY = "Press launch button to start remote control"
-RUNNING_READY = "Press launch button to re-start remote control"
-LOOKING_UP = "Looking up IP Address for the Vorx"
-STATUS_TEXTS = [NO_URL, READY, RUNNING_READY, LOOKING_UP]
+LOCATION = "https://server.example"
 
 WHITE, GREEN, RED = (255, 255, 255), (0, 255, 0), (255, 0, 0)
 
@@ -51,7 +43,7 @@ class LauncherTest(unittest.TestCase):
             self.stack.enter_context(tempfile.TemporaryDirectory(prefix="e2e-", dir=BUILD)))
         self.record = doubles.Record(self.folder / "record")
         self.application = self.folder / APPLICATION
-        shutil.copytree(BUILD / APPLICATION, self.application)
+        shutil.copytree(BUILD / APPLICATION, self.application, symlinks=True)
         self.put_viewer_in_place()
 
     # What is set up.
@@ -77,17 +69,31 @@ class LauncherTest(unittest.TestCase):
             self.skipTest(f"images cannot be attached here: {reason}")
         return pathlib.Path(volume) / APPLICATION, address
 
-    def start(self, program=None, *arguments, folder=None, language="en", locale="C.UTF-8",
-              environment=None):
-        """Starts the launcher and waits for its window."""
-        self.launcher = subprocess.Popen(
+    def start_process(self, program=None, *arguments, folder=None, language="en", locale="C.UTF-8",
+                      environment=None):
+        process = subprocess.Popen(
             [str(program or self.application / PROGRAM), *arguments], cwd=folder,
             stdin=subprocess.DEVNULL,
-            env={**os.environ, "HOME": str(self.folder), "LC_ALL": locale, "LANGUAGE": language,
-                 "RECORD": str(self.record.file), **(environment or {})})
-        self.addCleanup(self.end, self.launcher)
-        self.window = LauncherWindow.shown()
-        self.disabled_button = self.settled("launchButton")
+            env={**os.environ, **screen_reader.ENVIRONMENT, "HOME": str(self.folder),
+                 "LC_ALL": locale, "LANGUAGE": language, "RECORD": str(self.record.file),
+                 **(environment or {})})
+        self.addCleanup(self.end, process)
+        return process
+
+    def start(self, *words, shown_in="en", **options):
+        """Starts the launcher and waits for its window."""
+        self.process = self.start_process(*words, **options)
+        self.launcher = Launcher(self.process, shown_in)
+
+    def start_with_slow_resolver(self):
+        """Starts the launcher; a name is looked up as soon as the gate `answers` is opened."""
+        self.answers = doubles.Gate(self.folder / "answers")
+        self.start(environment={"LD_PRELOAD": str(doubles.SLOW_RESOLVER),
+                                "ANSWERS": str(self.answers.file)})
+
+    def wait_for_lookup(self):
+        self.launcher.wait_for_status(LOOKING_UP)
+        self.record.wait_for(self.process.pid, "lookup")
 
     def start_double(self, name):
         double = doubles.start(name, self.record, self.folder)
@@ -97,75 +103,50 @@ class LauncherTest(unittest.TestCase):
 
     # What is done.
 
-    def enter(self, control, text):
-        """Types a text into a field, in the place of what is there."""
-        self.window.click_on(control)
-        self.window.press("ctrl+a")
-        self.window.type(text)
+    def enter_location(self, location=LOCATION):
+        self.launcher.enter(self.launcher.location, location)
+
+    def enter_address(self, address):
+        self.launcher.enter(self.launcher.address, address)
 
     def enter_valid(self):
         """Types a location, and an address so that nothing is looked up."""
-        self.enter("vorxLocation", "https://server.example")
-        self.enter("ipAddress", "10.0.0.5")
+        self.enter_location()
+        self.enter_address("10.0.0.5")
+        wait_until(lambda: self.launcher.button.enabled, "the button is enabled")
 
     def press_launch(self):
-        self.window.click_on("launchButton")
+        self.launcher.click_on(self.launcher.button)
+
+    def launch(self):
+        """Launches what is valid; gives the viewer, which runs."""
+        known = doubles.running("vexlink")
+        self.enter_valid()
+        self.press_launch()
+        return self.wait_for_viewer(*known)
+
+    def press_in_vain(self):
+        """Presses the button where no viewer can be started: all is soon as it was."""
+        with screen_reader.Announcements() as announcements:
+            self.press_launch()
+            wait_until(lambda: announcements.heard()[1:], "the status line has said two things")
+        self.launcher.wait_for_status(READY)
+        wait_until(lambda: self.launcher.button.enabled, "the button is enabled again")
+        self.assertEqual(doubles.running("vexlink"), [])
 
     def quit(self):
         """Closes the window and waits for the launcher to end."""
-        self.window.close()
-        self.assertEqual(self.launcher.wait(timeout=60), 0)
+        self.launcher.close()
+        self.assert_ends()
 
     # What is seen.
 
-    def settled(self, control):
-        return self.window.settled_picture().crop(*self.window.frame(control))
+    def colour(self, field):
+        """The colour of most of a field."""
+        return self.launcher.picture_of(field).main_colour()
 
-    def status(self):
-        return reading.nearest(reading.read(self.window.picture_of("infoLabel")), STATUS_TEXTS)
-
-    def wait_for_status(self, text):
-        wait_until(lambda: self.status() == text, f"the status line says '{text}'")
-
-    def wait_for_location(self):
-        wait_until(self.window.has_location, "the location has been found")
-
-    def button_title(self, language="eng"):
-        left, top, width, height = self.window.frame("launchButton")
-        inside = self.window.picture().crop(left + 20, top + 6, width - 40, height - 12)
-        return reading.read(inside, language)
-
-    def assert_button_disabled(self):
-        self.assertEqual(self.settled("launchButton"), self.disabled_button)
-
-    def ip_colour(self):
-        """The colour of the IP field, at a place where no text is."""
-        left, top, width, height = self.window.frame("ipAddress")
-        return self.window.picture().pixel(left + width - 10, top + height // 2)
-
-    def wait_for_ip_colour(self, colour):
-        wait_until(lambda: self.ip_colour() == colour, f"the IP field's colour is {colour}")
-
-    def wait_for_alert(self):
-        def alert():
-            return windows_of(PROGRAM)[1:]
-
-        return Window(wait_until(alert, "an alert is shown")[0])
-
-    def wait_for_no_alert(self):
-        wait_until(lambda: len(windows_of(PROGRAM)) == 1, "the alert is gone")
-
-    def wait_for_text(self, control, text):
-        """Waits until a field's text, selected and copied, is this one."""
-        def copied():
-            done = subprocess.run(["xclip", "-selection", "clipboard", "-out"], text=True,
-                                  stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
-                                  stderr=subprocess.DEVNULL)
-            return done.stdout == text
-
-        self.window.click_on(control)
-        self.window.press("ctrl+a", "ctrl+c")
-        wait_until(copied, f"{control} holds '{text}'")
+    def wait_for_colour(self, field, colour):
+        wait_until(lambda: self.colour(field) == colour, f"the field's colour is {colour}")
 
     def wait_for_viewer(self, *known):
         """The one viewer that runs besides the known ones."""
@@ -176,17 +157,20 @@ class LauncherTest(unittest.TestCase):
         self.record.wait_for(viewer, "started")
         return viewer
 
+    def assert_ends(self, status=0):
+        self.assertEqual(self.process.wait(timeout=60), status)
+
     # What is left.
 
     @staticmethod
-    def end(launcher):
+    def end(process):
         """Asks the launcher to quit; one that does not is ended, and that is a failure."""
-        launcher.terminate()
+        process.terminate()
         try:
-            launcher.wait(timeout=60)
+            process.wait(timeout=60)
         except subprocess.TimeoutExpired:
-            launcher.kill()
-            launcher.wait()
+            process.kill()
+            process.wait()
             raise
 
     def assert_nothing_left(self):

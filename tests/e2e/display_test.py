@@ -1,26 +1,46 @@
 """A display that goes away."""
 
+import contextlib
 import os
 import subprocess
 import unittest.mock
 
-from case import PROGRAM, READY, LauncherTest
+from case import PROGRAM, LauncherTest
 from desktop.display import VirtualDisplay
+
+
+@contextlib.contextmanager
+def display_of_its_own():
+    """Beside the session's own, so that the screen reader stays."""
+    with VirtualDisplay() as display:
+        with unittest.mock.patch.dict(os.environ, DISPLAY=display.environment["DISPLAY"]):
+            yield
 
 
 class DisplayTest(LauncherTest):
     def test_the_launcher_ends_with_it_and_stops_its_viewer(self):
-        with VirtualDisplay() as display, unittest.mock.patch.dict(os.environ, display.environment):
+        companion = self.start_double("vexwatch")
+        with display_of_its_own():
             self.start()
-            self.enter_valid()
-            self.wait_for_status(READY)
+            viewer = self.launch()
+        self.assertNotEqual(self.process.wait(timeout=60), 0)
+        for asked in (viewer, companion):
+            self.record.wait_for(asked, "SIGTERM")
+            self.assertEqual(self.record.events().count((asked, "SIGTERM")), 1)
+
+    def test_an_alert_is_no_hindrance(self):
+        with display_of_its_own():
+            companion = self.start_double("vexwatch")
+            self.start()
+            self.enter_location("https://nohost.invalid")
             self.press_launch()
-            viewer = self.wait_for_viewer()
-        self.assertNotEqual(self.launcher.wait(timeout=60), 0)
-        self.record.wait_for(viewer, "SIGTERM")
+            self.launcher.wait_for_alert()
+        self.assertNotEqual(self.process.wait(timeout=60), 0)
+        self.record.wait_for(companion, "SIGTERM")
 
     def test_without_one_a_line_says_so(self):
-        environment = {name: value for name, value in os.environ.items() if name != "DISPLAY"}
+        environment = {name: value for name, value in os.environ.items()
+                       if name not in ("DISPLAY", "WAYLAND_DISPLAY")}
         done = subprocess.run([self.application / PROGRAM], env=environment, text=True, timeout=60,
                               stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                               stderr=subprocess.STDOUT)

@@ -4,6 +4,7 @@ import contextlib
 import os
 import pathlib
 import shutil
+import socket
 import subprocess
 
 from desktop.waiting import wait_until
@@ -83,6 +84,11 @@ def command_of(process):
 def arguments_of(process):
     """The arguments that a process was started with, without its own name."""
     return pathlib.Path(f"/proc/{process}/cmdline").read_text().split("\0")[1:-1]
+
+
+def address_of(host):
+    """The first address that the system's resolver gives."""
+    return socket.getaddrinfo(host, None, type=socket.SOCK_STREAM)[0][4][0]
 
 
 def start(name, record, folder):

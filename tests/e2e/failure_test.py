@@ -1,33 +1,53 @@
 """A name that does not resolve."""
 
-import reading
-from case import NO_URL, READY, LauncherTest
+from case import LauncherTest
+from desktop.launcher import NO_URL, READY
+from desktop.screen_reader import BUTTON, LABEL
+from desktop.waiting import wait_until
+from desktop.window import press, type_text
+
+UNKNOWN = "https://nohost.invalid"
 
 
 class FailureTest(LauncherTest):
     def fail_to_look_up(self):
+        """Gives the alert, which is shown."""
         self.start()
-        self.enter("vorxLocation", "https://nohost.invalid")
-        self.wait_for_status(READY)
+        self.enter_location(UNKNOWN)
+        self.launcher.wait_for_status(READY)
         self.press_launch()
+        return self.launcher.wait_for_alert()
 
     def test_an_alert_tells_and_an_edit_brings_the_button_back(self):
-        self.fail_to_look_up()
-        alert = reading.read(self.wait_for_alert().settled_picture())
-        self.assertIn("Failed to look up IP address for", alert)
-        self.assertIn("nohost.invalid", alert.replace(" ", ""))
-        self.assertIn("Please check you have entered the correct address", alert)
-        self.wait_for_status(NO_URL)
-        self.window.press("Return")
-        self.wait_for_no_alert()
+        alert = self.fail_to_look_up()
+        wait_until(lambda: alert.active, "the alert has the keys")  # a screen reader reads it then
+        texts = [label.name for label in alert.all(LABEL)]
+        self.assertIn("Failed to look up IP address for 'nohost.invalid'", texts)
+        self.assertIn("Please check you have entered the correct address", texts)
+        self.assertEqual([button.name for button in alert.all(BUTTON)], ["OK"])
+        self.launcher.wait_for_status(NO_URL)
+        press("Return")
+        self.launcher.wait_for_no_alert()
 
-        self.assertEqual(self.status(), NO_URL)
-        self.assert_button_disabled()
-        self.enter("vorxLocation", "https://server.example")
-        self.wait_for_status(READY)
+        self.assertEqual(self.launcher.status, NO_URL)
+        self.assertFalse(self.launcher.button.enabled)
+        self.enter_location()
+        self.launcher.wait_for_status(READY)
+
+    def test_the_next_key_edits_the_location(self):
+        self.fail_to_look_up()
+        press("Return")
+        self.launcher.wait_for_no_alert()
+        wait_until(lambda: self.launcher.location.focused, "the location has the focus")
+        self.launcher.wait_until_active()
+        press("End")
+        type_text("x")
+        wait_until(lambda: self.launcher.location.text == UNKNOWN + "x", "the location is edited")
+        self.launcher.wait_for_status(READY)
 
     def test_closing_the_alert_leaves_the_launcher(self):
-        self.fail_to_look_up()
-        self.wait_for_alert().close()
-        self.wait_for_no_alert()
+        alert = self.fail_to_look_up()
+        wait_until(lambda: alert.active, "the keys go to the alert")
+        press("alt+F4")
+        self.launcher.wait_for_no_alert()
         self.quit()

@@ -3,7 +3,7 @@
 import contextlib
 import subprocess
 
-from case import READY, LauncherTest
+from case import LauncherTest
 
 
 class HomeTest(LauncherTest):
@@ -21,10 +21,7 @@ class HomeTest(LauncherTest):
     def assert_works(self, home):
         """With the folder for temporary files in the same place."""
         self.start(environment={"HOME": str(home), "TMPDIR": str(home)})
-        self.enter_valid()
-        self.wait_for_status(READY)
-        self.press_launch()
-        self.wait_for_viewer()
+        self.launch()
         self.quit()
 
     def test_there_is_none(self):

@@ -4,23 +4,18 @@ import os
 import signal
 
 import doubles
-from case import READY, RUNNING_READY, LauncherTest
+from case import LauncherTest
+from desktop.launcher import READY, RUNNING_READY
 from desktop.waiting import wait_until
 
 
 class OddViewerTest(LauncherTest):
-    def launch(self, **options):
-        self.start(**options)
-        self.enter_valid()
-        self.wait_for_status(READY)
-        self.press_launch()
-
     def launch_stubborn(self):
         """A viewer that SIGTERM does not end runs on return."""
-        self.launch(environment={"STUBBORN": "1"})
+        self.start(environment={"STUBBORN": "1"})
         self.addCleanup(self.kill_viewers)
-        viewer = self.wait_for_viewer()
-        self.wait_for_status(RUNNING_READY)
+        viewer = self.launch()
+        self.launcher.wait_for_status(RUNNING_READY)
         return viewer
 
     @staticmethod
@@ -33,7 +28,7 @@ class OddViewerTest(LauncherTest):
         self.press_launch()
         second = self.wait_for_viewer(first)
         self.assertEqual(doubles.running("vexlink"), [first, second])
-        self.wait_for_status(RUNNING_READY)
+        self.launcher.wait_for_status(RUNNING_READY)
         self.quit()
         self.record.wait_for(second, "SIGTERM")
         self.assertEqual(self.record.events(), [(first, "started"), (first, "SIGTERM"),
@@ -50,11 +45,13 @@ class OddViewerTest(LauncherTest):
 
     def test_one_that_ends_at_once_is_forgotten(self):
         self.viewer.write_text("#!/bin/sh\necho $$ ended >> \"$RECORD\"\n")
-        self.launch()
+        self.start()
+        self.enter_valid()
+        self.press_launch()
         self.record.wait_for_event("ended")
-        wait_until(lambda: doubles.children_of(self.launcher.pid) == [], "the viewer is reaped")
-        self.enter("ipAddress", "10.0.0.6")
-        self.wait_for_status(READY)
+        wait_until(lambda: doubles.children_of(self.process.pid) == [], "the viewer is reaped")
+        self.enter_address("10.0.0.6")
+        self.launcher.wait_for_status(READY)
 
         self.viewer.unlink()
         self.put_viewer_in_place()
@@ -62,9 +59,9 @@ class OddViewerTest(LauncherTest):
         self.wait_for_viewer()
 
     def test_one_whose_file_is_replaced_makes_way_for_the_new_one(self):
-        self.launch()
-        first = self.wait_for_viewer()
-        self.wait_for_status(RUNNING_READY)
+        self.start()
+        first = self.launch()
+        self.launcher.wait_for_status(RUNNING_READY)
         self.viewer.unlink()
         self.put_viewer_in_place()
         self.press_launch()

@@ -4,7 +4,7 @@ import os
 import signal
 
 import doubles
-from case import READY, LauncherTest
+from case import LauncherTest
 from desktop.waiting import wait_until
 
 
@@ -12,10 +12,7 @@ class QuitTest(LauncherTest):
     def test_the_viewer_and_the_first_companion_are_asked_to_end(self):
         first, second = sorted([self.start_double("vexwatch"), self.start_double("vexwatch")])
         self.start()
-        self.enter_valid()
-        self.wait_for_status(READY)
-        self.press_launch()
-        viewer = self.wait_for_viewer()
+        viewer = self.launch()
 
         self.quit()
         self.record.wait_for(viewer, "SIGTERM")
@@ -23,17 +20,9 @@ class QuitTest(LauncherTest):
         self.assertEqual(doubles.running("vexwatch"), [second])
         self.assertNotIn((second, "SIGTERM"), self.record.events())
 
-    def test_the_menu_key_quits(self):
-        self.start()
-        self.window.press("ctrl+q")
-        self.assertEqual(self.launcher.wait(timeout=60), 0)
-
     def test_a_viewer_that_has_ended_is_reaped(self):
         self.start()
-        self.enter_valid()
-        self.wait_for_status(READY)
-        self.press_launch()
-        viewer = self.wait_for_viewer()
+        viewer = self.launch()
         os.kill(viewer, signal.SIGTERM)
         wait_until(lambda: not os.path.exists(f"/proc/{viewer}"), "the launcher has reaped it")
-        self.assertIsNone(self.launcher.poll())
+        self.assertIsNone(self.process.poll())

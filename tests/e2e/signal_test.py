@@ -1,36 +1,38 @@
-"""Signals that ask the launcher to end: it quits as from its menu."""
+"""Signals that ask the launcher to end: it quits as from its window."""
 
 import signal
 
-from case import READY, LauncherTest
+from case import LauncherTest
+from desktop.window import type_text
+
+SIGNALS = (signal.SIGTERM, signal.SIGINT, signal.SIGHUP)
 
 
 class SignalTest(LauncherTest):
     def end_by(self, number):
-        self.launcher.send_signal(number)
-        self.assertEqual(self.launcher.wait(timeout=60), 0)
+        self.process.send_signal(number)
+        self.assert_ends()
 
-    def test_the_viewer_is_asked_to_end(self):
-        for number in (signal.SIGTERM, signal.SIGINT):
-            with self.subTest(signal=number.name):
+    def test_the_viewer_and_the_companion_are_asked_to_end_once(self):
+        for number in SIGNALS:
+            with self.subTest(number.name):
+                companion = self.start_double("vexwatch")
                 self.start()
-                self.enter_valid()
-                self.wait_for_status(READY)
-                self.press_launch()
-                viewer = self.wait_for_viewer()
+                viewer = self.launch()
                 self.end_by(number)
-                self.record.wait_for(viewer, "SIGTERM")
+                for asked in (viewer, companion):
+                    self.record.wait_for(asked, "SIGTERM")
+                    self.assertEqual(self.record.events().count((asked, "SIGTERM")), 1)
 
     def test_an_alert_is_no_hindrance(self):
         self.start()
-        self.enter("vorxLocation", "https://nohost.invalid")
-        self.wait_for_status(READY)
+        self.enter_location("https://nohost.invalid")
         self.press_launch()
-        self.wait_for_alert()
+        self.launcher.wait_for_alert()
         self.end_by(signal.SIGTERM)
 
     def test_at_whatever_moment(self):
         for _ in range(10):
             self.start()
-            self.window.type("https://server.example/")
+            type_text("https://server.example/")
             self.end_by(signal.SIGTERM)

@@ -1,56 +1,88 @@
 """A resolver that takes as long as it likes."""
 
 import doubles
-from case import GREEN, LOOKING_UP, READY, RED, RUNNING_READY, LauncherTest
+from case import GREEN, RED, LauncherTest
+from desktop.launcher import READY, RUNNING_READY
+from desktop.waiting import wait_until
+from desktop.window import press, type_text
 
 
 class SlowResolverTest(LauncherTest):
-    def look_up(self, host):
+    def look_up(self):
         """Presses the button; the lookup is under way on return."""
-        self.answers = doubles.Gate(self.folder / "answers")
-        self.start(environment={"LD_PRELOAD": str(doubles.SLOW_RESOLVER),
-                                "ANSWERS": str(self.answers.file)})
-        self.enter("vorxLocation", f"https://{host}")
-        self.wait_for_status(READY)
+        self.start_with_slow_resolver()
+        self.enter_location("https://localhost")
+        self.launcher.wait_for_status(READY)
         self.press_launch()
-        self.wait_for_status(LOOKING_UP)
-        self.record.wait_for(self.launcher.pid, "lookup")
+        self.wait_for_lookup()
 
     def test_what_is_typed_meanwhile_is_shown_and_judged(self):
-        self.look_up("127.0.0.1")
-        self.enter("ipAddress", "10.0.0")
-        self.wait_for_ip_colour(RED)
-        self.window.type(".5")
-        self.wait_for_ip_colour(GREEN)
-        self.wait_for_text("ipAddress", "10.0.0.5")
+        self.look_up()
+        self.enter_address("10.0.0")
+        self.wait_for_colour(self.launcher.address, RED)
+        type_text(".5")
+        self.wait_for_colour(self.launcher.address, GREEN)
+        self.assertEqual(self.launcher.address.text, "10.0.0.5")
         self.assertEqual(doubles.running("vexlink"), [])
 
         self.answers.open()
         self.assertEqual(doubles.arguments_of(self.wait_for_viewer())[:4],
-                         ["-l", "127.0.0.1", "-i", "127.0.0.1"])
+                         ["-l", "localhost", "-i", doubles.address_of("localhost")])
 
     def test_the_location_is_locked_meanwhile(self):
-        self.look_up("127.0.0.1")
-        self.enter("vorxLocation", "typed")
+        self.look_up()
+        self.assertFalse(self.launcher.location.enabled)
+        self.assertFalse(self.launcher.button.enabled)
+        self.launcher.click_on(self.launcher.location)
+        type_text("typed")
         self.answers.open()
-        self.wait_for_status(RUNNING_READY)
-        self.wait_for_text("vorxLocation", "https://127.0.0.1")
+        self.launcher.wait_for_status(RUNNING_READY)
+        self.assertEqual(self.launcher.location.text, "https://localhost")
+        self.assertEqual(self.launcher.address.text, "")
+
+    def test_who_typed_the_location_types_on_after_the_launch(self):
+        self.start_with_slow_resolver()
+        self.launcher.wait_until_active()
+        type_text("https://localhost/path")
+        self.launcher.wait_for_status(READY)
+        press("shift+Left", "shift+Left", "shift+Left", "shift+Left", "Return")
+        self.wait_for_lookup()
+        self.answers.open()
+        self.launcher.wait_for_status(RUNNING_READY)
+        wait_until(lambda: self.launcher.location.focused, "the location has the focus again")
+        type_text("new")  # in the place of what was selected
+        wait_until(lambda: self.launcher.location.text == "https://localhost/new",
+                   "the location is edited where it was left")
+
+    def test_who_has_gone_elsewhere_stays_there(self):
+        self.start_with_slow_resolver()
+        self.launcher.wait_until_active()
+        type_text("https://localhost")
+        self.launcher.wait_for_status(READY)
+        press("Return")
+        self.wait_for_lookup()
+        self.launcher.click_on(self.launcher.address)
+        wait_until(lambda: self.launcher.address.focused, "the address has the focus")
+        self.answers.open()
+        self.launcher.wait_for_status(RUNNING_READY)
+        type_text("10.0.0.5")
+        wait_until(lambda: self.launcher.address.text == "10.0.0.5", "the address is typed")
 
     def test_a_second_launch_overtakes_it(self):
-        self.look_up("127.0.0.1")
-        self.enter("ipAddress", "10.0.0.5")
-        self.wait_for_status(READY)
+        self.look_up()
+        self.enter_address("10.0.0.5")
+        self.launcher.wait_for_status(READY)
         self.press_launch()
         first = self.wait_for_viewer()
         self.assertEqual(doubles.arguments_of(first)[3], "10.0.0.5")
 
         self.answers.open()
         second = self.wait_for_viewer(first)
-        self.assertEqual(doubles.arguments_of(second)[3], "127.0.0.1")
+        self.assertEqual(doubles.arguments_of(second)[3], doubles.address_of("localhost"))
         self.assertEqual(self.record.events()[1:],
                          [(first, "started"), (first, "SIGTERM"), (second, "started")])
 
     def test_the_launcher_quits_without_the_answer(self):
-        self.look_up("127.0.0.1")
+        self.look_up()
         self.quit()
-        self.assertEqual(self.record.events(), [(self.launcher.pid, "lookup")])
+        self.assertEqual(self.record.events(), [(self.process.pid, "lookup")])

@@ -1,7 +1,7 @@
 """A search for the server that takes as long as it likes."""
 
 import doubles
-from case import READY, LauncherTest
+from case import LauncherTest
 
 TOOL = """#!/bin/sh
 echo $$ listing >> "$RECORD"
@@ -14,16 +14,15 @@ class SlowSearchTest(LauncherTest):
     def start_searching(self):
         self.answers = doubles.Gate(self.folder / "answers")
         tool = self.application / "Resources/bin/attached-images"
+        tool.unlink()
         tool.write_text(TOOL)
+        tool.chmod(0o755)
         self.start(environment={"ANSWERS": str(self.answers.file)})
         self.tool = self.record.wait_for_event("listing")
 
     def test_the_viewer_is_started_meanwhile(self):
         self.start_searching()
-        self.enter_valid()
-        self.wait_for_status(READY)
-        self.press_launch()
-        self.wait_for_viewer()
+        self.launch()
         self.answers.open()
 
     def test_the_launcher_quits_without_the_answer(self):

@@ -1,16 +1,14 @@
 """Two hundred starts and quits, one after the other: what was there before is all that is there
 after. Takes minutes, so that it is a suite of its own."""
 
-import contextlib
 import os
 import pathlib
 import subprocess
 
-from case import PROGRAM, ROOT, LauncherTest
-from desktop.launcher import LauncherWindow
+from case import ROOT, LauncherTest
+from desktop.launcher import PROGRAM
 from desktop.processes import descendants, none_left
 from desktop.waiting import wait_until
-from desktop.window import Window, windows_of
 
 STARTS = 200
 
@@ -32,14 +30,6 @@ def lines_of(*command):
     return len(printed.splitlines())
 
 
-def has_ended(launcher, window):
-    """Closes the window, which the window manager does only once it has the focus."""
-    window.close()
-    with contextlib.suppress(subprocess.TimeoutExpired):
-        launcher.wait(timeout=1)
-    return launcher.poll() is not None
-
-
 class StartsTest(LauncherTest):
     def possessions(self):
         return {"temporary files": files_below("/tmp"),
@@ -51,16 +41,10 @@ class StartsTest(LauncherTest):
                 "windows": lines_of("xwininfo", "-root", "-tree")}
 
     def start_and_quit(self, program, *, during_search):
-        launcher = subprocess.Popen([program], stdin=subprocess.DEVNULL,
-                                    env={**os.environ, "HOME": str(self.home)})
-        self.addCleanup(launcher.kill)
-        if during_search:
-            window = Window(wait_until(lambda: windows_of(PROGRAM), "the window is shown")[0])
-        else:
-            window = LauncherWindow.shown()
-            wait_until(window.has_location, "the location has been found")
-        wait_until(lambda: has_ended(launcher, window), "the launcher has ended")
-        self.assertEqual(launcher.returncode, 0)
+        self.start(program, environment={"HOME": str(self.home)})
+        if not during_search:
+            self.launcher.wait_for_location()
+        self.quit()
 
     def test_nothing_stays(self):
         application, _ = self.mounted_application()

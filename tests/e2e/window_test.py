@@ -2,46 +2,66 @@
 
 import subprocess
 
-from case import LauncherTest
+from case import GREEN, RED, WHITE, LauncherTest
 from desktop.waiting import wait_until
+from desktop.window import type_text
+
+DARK = "".join(f"[Colors:{part}]\nBackgroundNormal=20,20,20\nForegroundNormal=240,240,240\n"
+               for part in ("Window", "View", "Button", "Selection", "Tooltip"))
 
 
 class WindowTest(LauncherTest):
-    def property(self, name):
-        return subprocess.run(["xprop", "-id", self.window.identifier, name], check=True, text=True,
-                              stdout=subprocess.PIPE).stdout
+    def assert_stays_above(self):
+        def is_kept_above():
+            return "_NET_WM_STATE_ABOVE" in self.launcher.on_display.property("_NET_WM_STATE")
+
+        wait_until(is_kept_above, "the window is kept above")
 
     def test_it_stays_above_ordinary_windows(self):
         self.start()
-        wait_until(lambda: "_NET_WM_STATE_ABOVE" in self.window.states(), "the window is kept above")
+        self.assert_stays_above()
+        self.launcher.on_display.minimise()
+        wait_until(lambda: not self.launcher.window.active, "the window is an icon")
+        self.launcher.on_display.activate()
+        self.launcher.wait_until_active()
+        self.assert_stays_above()
 
     def test_window_lists_show_its_name_and_icon(self):
         self.start()
-        self.assertIn('"VorxLauncher", "VorxLauncher"', self.property("WM_CLASS"))
-        self.assertIn('"Vorx Launcher"', self.property("_NET_WM_NAME"))
-        self.assertIn("Icon (128 x 128)", self.property("_NET_WM_ICON"))
+        window = self.launcher.on_display
+        self.assertIn('"VorxLauncher"', window.property("WM_CLASS"))
+        self.assertIn('"Vorx Launcher"', window.property("_NET_WM_NAME"))
+        self.assertIn("Icon (128 x 128)", window.property("_NET_WM_ICON"))
 
     def test_it_is_as_large_as_a_dense_screen_needs(self):
         self.start()
-        width, height = self.window.geometry()[2:]
-        ordinary = self.window.settled_picture()
+        width, height = self.launcher.on_display.geometry()[2:]
         self.quit()
 
         self.addCleanup(subprocess.run, ["xprop", "-root", "-remove", "RESOURCE_MANAGER"], check=True)
         subprocess.run(["xprop", "-root", "-format", "RESOURCE_MANAGER", "8s",
                         "-set", "RESOURCE_MANAGER", "Xft.dpi:\t192\n"], check=True)
         self.start()
-        self.assertEqual(self.window.geometry()[2:], [2 * width, 2 * height])
-        dense = self.window.settled_picture()
-        for x, y in ((2, 2), (2, height - 1), (width - 2, 2), (width - 2, height - 1)):
-            self.assertEqual(dense.pixel(2 * x, 2 * y + 1), ordinary.pixel(x, y), (x, y))
+        for size, dense_size in zip((width, height), self.launcher.on_display.geometry()[2:]):
+            self.assertAlmostEqual(dense_size / size, 2, delta=0.1)
 
-    def test_colours_of_other_programs_leave_it_legible(self):
-        self.start()
-        light = self.window.settled_picture()
-        self.quit()
+    def start_on_dark_desktop(self):
+        settings = self.folder / "kdeglobals"
+        settings.write_text(DARK)
+        self.start(environment={"XDG_CURRENT_DESKTOP": "KDE", "KDE_FULL_SESSION": "true",
+                                "KDE_SESSION_VERSION": "5", "XDG_CONFIG_HOME": str(self.folder)})
 
-        # As a setting of the toolkit's; the person's own file of them lies outside of this test.
-        self.start(None, "-controlTextColor", "1 1 1", "-textBackgroundColor", "0 0 0")
-        # The insertion point blinks.
-        wait_until(lambda: self.window.picture() == light, "the window looks as before")
+    def test_a_dark_desktop_has_a_dark_window_with_legible_fields(self):
+        self.start_on_dark_desktop()
+        self.assertEqual(self.launcher.on_display.picture().main_colour(), (20, 20, 20))
+        location, address = self.launcher.location, self.launcher.address
+        self.enter_location()
+        self.assert_legible(location, WHITE)
+        self.enter_address("10.0.0")
+        self.assert_legible(address, RED)
+        type_text(".5")
+        self.assert_legible(address, GREEN)
+
+    def assert_legible(self, field, background):
+        self.wait_for_colour(field, background)
+        self.assertTrue(self.launcher.picture_of(field).has((0, 0, 0)))

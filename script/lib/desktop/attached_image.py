@@ -8,8 +8,7 @@ import subprocess
 import sys
 import tempfile
 
-from desktop.failure import Failure
-from desktop.waiting import wait_until
+from desktop.waiting import Failure, wait_until
 
 
 class NotAllowed(Failure):

@@ -1,10 +1,10 @@
-"""A virtual display with a light window manager."""
+"""A virtual display with a light window manager and a session bus, as a desktop has them."""
 
 import os
 import subprocess
+import tempfile
 
-from desktop.failure import Failure
-from desktop.waiting import wait_until
+from desktop.waiting import Failure, wait_until
 
 
 class NoDisplay(Failure):
@@ -12,13 +12,20 @@ class NoDisplay(Failure):
 
 
 class VirtualDisplay:
-    """Xvfb on the first free display number, with openbox; both end with the `with` block."""
+    """Xvfb on the first free display number, with openbox and a bus; all end with the `with` block."""
 
     def __init__(self, size="1024x768"):
         self._programs = []
+        self._folder = tempfile.TemporaryDirectory(prefix="session-")
+        self.environment = {"XDG_RUNTIME_DIR": self._folder.name}
         try:
-            self.environment = {"DISPLAY": self._start_server(size)}
-            self._start_window_manager()
+            self.environment["DISPLAY"] = ":" + self._answer(
+                "Xvfb", "-displayfd", "{}", "-screen", "0", f"{size}x24", "-nolisten", "tcp",
+                "-noreset")
+            self._start("openbox")
+            self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._answer(
+                "dbus-daemon", "--session", "--nofork", "--print-address={}")
+            wait_until(self._is_managed, "openbox manages the display")
         except BaseException:
             self.close()
             raise
@@ -34,32 +41,29 @@ class VirtualDisplay:
             program = self._programs.pop()
             program.terminate()
             program.wait()
+        self._folder.cleanup()
 
     def _start(self, *command, **options):
         try:
             program = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                                       stderr=subprocess.DEVNULL, start_new_session=True, **options)
+                                       stderr=subprocess.DEVNULL, start_new_session=True,
+                                       env={**os.environ, **self.environment}, **options)
         except FileNotFoundError as error:
             raise NoDisplay(f"{command[0]} is not installed") from error
         self._programs.append(program)
-        return program
 
-    def _start_server(self, size):
+    def _answer(self, *command):
+        """Starts a program; gives the line that it writes to the descriptor that stands for {}."""
         answer, number = os.pipe()
-        try:
-            self._start("Xvfb", "-displayfd", str(number), "-screen", "0", f"{size}x24",
-                        "-nolisten", "tcp", "-noreset", pass_fds=[number])
-        finally:
-            os.close(number)
         with os.fdopen(answer) as file:
+            try:
+                self._start(*[word.format(number) for word in command], pass_fds=[number])
+            finally:
+                os.close(number)
             line = file.readline().strip()
         if not line:
-            raise NoDisplay("Xvfb does not start")
-        return f":{line}"
-
-    def _start_window_manager(self):
-        self._start("openbox", env={**os.environ, **self.environment})
-        wait_until(self._is_managed, "openbox manages the display")
+            raise NoDisplay(f"{command[0]} does not start")
+        return line
 
     def _is_managed(self):
         answer = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], text=True,

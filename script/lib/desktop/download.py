@@ -10,7 +10,7 @@ import subprocess
 import sys
 import threading
 
-from desktop.failure import Failure
+from desktop.waiting import Failure
 
 ORIGIN = "user.xdg.origin.url"
 MAC_ORIGIN = "com.apple.metadata:kMDItemWhereFroms"

@@ -1,54 +1,105 @@
-"""The launcher's window: where its controls are, and what can be seen in them."""
+"""A launcher that runs, driven as a person drives it: by what the window calls its parts, with real
+keys and clicks."""
 
 import pathlib
-import xml.etree.ElementTree as ElementTree
 
-from desktop.window import Window
+from desktop.picture import picture_of
+from desktop.screen_reader import BUTTON, FIELD, NOTIFICATION, program
+from desktop.waiting import Failure, wait_until
+from desktop.window import click, press, type_text, windows_of
+from localised import tables
 
 PROGRAM = "VorxLauncher"
-_LAYOUT = pathlib.Path(__file__).resolve().parents[3] / "resources/Base.lproj/ViewController.xib"
+_RESOURCES = pathlib.Path(__file__).resolve().parents[3] / "resources"
+
+TITLE = "Vorx Launcher"
+NO_URL = "Enter valid Vorx location to enable launch button"
+READY = "Press launch button to start remote control"
+RUNNING_READY = "Press launch button to re-start remote control"
+LOOKING_UP = "Looking up IP Address for the Vorx"
 
 
-def _layout():
-    """Left, bottom, width and height of the controls, by the names of their outlets, as the layout
-    resource has them."""
-    document = ElementTree.parse(_LAYOUT)
-    frames = {}
-    for view in document.iter():
-        frame = view.find("rect[@key='frame']")
-        if frame is not None:
-            frames[view.get("id")] = [round(float(frame.get(side)))
-                                      for side in ("x", "y", "width", "height")]
-    return {outlet.get("property"): frames[outlet.get("destination")]
-            for outlet in document.iter("outlet") if outlet.get("destination") in frames}
+def texts_in(language):
+    """The texts of a language by their keys."""
+    table = _RESOURCES / f"{language}.lproj/Localizable.strings"
+    return {entry.key: entry.text for entry in tables.parse(tables.decode(table.read_bytes()))}
 
 
-class LauncherWindow(Window):
-    """The launcher's window in the size that the layout resource gives it."""
+class Launcher:
+    """The window of a running process, in one language. It is shown and has all its parts on
+    return."""
 
-    def __init__(self, identifier):
-        super().__init__(identifier)
-        self._controls = _layout()
+    def __init__(self, process, language="en"):
+        self.process = process
+        self.texts = texts_in(language)
+        self.window = self.wait_until(self._shown, "the launcher shows its window")
+        self.location = self.window.find(FIELD, self.texts["Vorx location"])
+        self.address = self.window.find(FIELD, self.texts["IP address"])
+        self.button = self.window.find(BUTTON)
+        self._status = self.window.find(NOTIFICATION)
 
-    @classmethod
-    def shown(cls):
-        return cls.of(PROGRAM)
+    def _shown(self):
+        known = program(self.process.pid)
+        return known and windows_of(self.process.pid) and known.find_window(self.texts[TITLE])
 
-    def frame(self, control):
-        """A control's left, top, width and height in the window."""
-        left, bottom, width, height = self._controls[control]
-        return left, self.geometry()[3] - bottom - height, width, height
+    # What is seen.
 
-    def picture_of(self, control):
-        return self.picture().crop(*self.frame(control))
+    @property
+    def on_display(self):
+        """The window as the window manager knows it."""
+        return windows_of(self.process.pid)[0]
 
-    def click_on(self, control):
-        left, top, width, height = self.frame(control)
-        self.click(left + width // 2, top + height // 2)
+    @property
+    def status(self):
+        return self._status.name
 
-    def has_location(self):
-        """Whether the location field shows a text. What it shows while empty is pale; until it is
-        painted for the first time it may be black all over."""
-        left, top, width, height = self.frame("vorxLocation")
-        inside = self.picture().crop(left + 4, top + 4, width - 8, height - 8)
-        return 10 < inside.inked_columns() < inside.width
+    def picture_of(self, part):
+        return picture_of("root").crop(*part.frame)
+
+    def wait_until(self, condition, what):
+        def met():
+            if self.process.poll() is not None:
+                raise Failure(f"the launcher has ended before {what}")
+            return condition()
+
+        return wait_until(met, what)
+
+    def wait_for_status(self, key):
+        self.wait_until(lambda: self.status == self.texts[key], f"the status line says '{key}'")
+
+    def wait_for_location(self):
+        return self.wait_until(lambda: self.location.text, "the location has been found")
+
+    def wait_until_active(self):
+        self.wait_until(lambda: self.window.active, "the keys go to the launcher's window")
+
+    def wait_for_alert(self):
+        """The alert, which is shown and has the keys."""
+        def alert():
+            found = program(self.process.pid).find_alert()
+            return found and found.find(BUTTON).focused and found
+
+        return self.wait_until(alert, "an alert is shown")
+
+    def wait_for_no_alert(self):
+        self.wait_until(lambda: len(windows_of(self.process.pid)) == 1, "the alert is gone")
+
+    # What is done.
+
+    def click_on(self, part):
+        left, top, width, height = part.frame
+        click(left + width // 2, top + height // 2)
+
+    def enter(self, field, text):
+        """Types a text into a field, in the place of what is there."""
+        self.click_on(field)
+        self.wait_until(lambda: field.focused, "the field has the focus")
+        press("ctrl+a", "BackSpace")
+        self.wait_until(lambda: field.text == "", "the field is empty")
+        type_text(text)
+        self.wait_until(lambda: field.text == text, f"the field holds '{text}'")
+
+    def close(self):
+        """Closes the window through the window manager, as its close button does."""
+        self.wait_until_active()
+        press("alt+F4")

@@ -1,5 +1,6 @@
 """A picture of a window, and what can be told from it."""
 
+import collections
 import subprocess
 
 
@@ -17,14 +18,16 @@ class Picture:
                 for y in range(top, top + height)]
         return Picture(width, height, b"".join(rows))
 
-    def pixel(self, x, y):
-        start = 3 * (y * self.width + x)
-        return tuple(self.pixels[start:start + 3])
+    def _pixels(self):
+        return collections.Counter(tuple(self.pixels[start:start + 3])
+                                   for start in range(0, len(self.pixels), 3))
 
-    def inked_columns(self, darkest=0x60):
-        """How many columns hold a dark pixel. A text has many, a caret has one."""
-        return sum(any(max(self.pixel(x, y)) < darkest for y in range(self.height))
-                   for x in range(self.width))
+    def main_colour(self):
+        """The colour of most pixels."""
+        return self._pixels().most_common(1)[0][0]
+
+    def has(self, colour):
+        return colour in self._pixels()
 
     def ppm(self):
         return b"P6 %d %d 255\n" % (self.width, self.height) + self.pixels
@@ -38,7 +41,7 @@ def _printed_by(*command):
 
 
 def picture_of(window):
-    """What an X window shows now."""
+    """What an X window shows now; the whole display is the window `root`."""
     return _printed_by("import", "-silent", "-window", window)
 
 

@@ -5,8 +5,7 @@ import os
 import pathlib
 import signal
 
-from desktop.failure import Failure
-from desktop.waiting import wait_until
+from desktop.waiting import Failure, wait_until
 
 _SET_CHILD_SUBREAPER = 36
 

@@ -2,9 +2,11 @@
 
 import time
 
-from desktop.failure import Failure
-
 LIMIT_SECONDS = 60
+
+
+class Failure(Exception):
+    """Something could not be done; the text is the whole message, which a script prints as one line."""
 
 
 def wait_until(condition, what, limit=LIMIT_SECONDS):

@@ -1,18 +1,19 @@
-// Stands before the system's resolver in a program that preloads it: each lookup is recorded, and
-// waits until somebody opens the FIFO that ANSWERS names.
+// Stands before the system's resolver in a program that preloads it: each lookup of a name is
+// recorded, and waits until somebody opens the FIFO that ANSWERS names.
 
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <netdb.h>
 #include <unistd.h>
 
 #include "Recording.h"
 
-struct addrinfo;
-
 extern "C" int getaddrinfo(const char* name, const char* service, const addrinfo* wanted,
                            addrinfo** list) {
-  record("lookup");
-  close(open(variable("ANSWERS"), O_RDONLY | O_CLOEXEC));
+  if ((wanted->ai_flags & AI_NUMERICHOST) == 0) {
+    record("lookup");
+    close(open(variable("ANSWERS"), O_RDONLY | O_CLOEXEC));
+  }
   const auto system = reinterpret_cast<decltype(&getaddrinfo)>(dlsym(RTLD_NEXT, "getaddrinfo"));
   return system(name, service, wanted, list);
 }
