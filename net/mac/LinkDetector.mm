@@ -24,7 +24,7 @@ class DataDetector : public LinkDetector {
     @autoreleasepool {
       NSString* searched = toNSString(text);
       NSDataDetector* detector = [[[NSDataDetector alloc] initWithTypes:NSTextCheckingTypeLink
-                                                                  error:nil] autorelease];
+                                                                  error:nullptr] autorelease];
       NSTextCheckingResult* match = firstLink(detector, searched, length);
       if (match == nil || goesOnBehind(length, detector, searched)) return std::nullopt;
       return LinkMatch{toUrl([match URL]), [match range].location, [match range].length};
