@@ -10,8 +10,9 @@ packages() {
   ' script/lib/packages
 }
 
+# The installed packages, of those of a name where one is given.
 installed() {
-  dpkg-query --show --showformat '${db:Status-Status} ${Package}\n' | sed -n 's/^installed //p'
+  dpkg-query --show --showformat '${db:Status-Status} ${Package}\n' "$@" | sed -n 's/^installed //p'
 }
 
 # Those of the named groups that are not there, one a line. A program that came another way than as
@@ -19,7 +20,7 @@ installed() {
 missing() {
   local package
   comm -13 <(installed | sort -u) <(packages "$@" | sort -u) | while read -r package; do
-    command -v "$package" >/dev/null || say "$package"
+    [ -n "$(installed "$package" 2>/dev/null)" ] || command -v "$package" >/dev/null || say "$package"
   done
 }
 
@@ -46,7 +47,7 @@ bootstrap() {
 
   say "Installing $list"
   as_root apt-get update -qq || fail "the lists of packages cannot be fetched"
-  # shellcheck disable=SC2086  # the list is made of words
+  # shellcheck disable=SC2086  # the list is made of words; what an asterisk stands for, apt knows
   as_root env DEBIAN_FRONTEND=noninteractive \
     apt-get install -qq --yes --no-install-recommends $list </dev/null ||
     fail "not everything could be installed: $list"
