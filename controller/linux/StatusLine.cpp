@@ -2,6 +2,8 @@
 
 #include <QAccessibleWidget>
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 namespace launcher {
 namespace {
@@ -28,7 +30,7 @@ QAccessibleInterface* makeNotification(const QString& className, QObject* object
 
 }  // namespace
 
-StatusLine::StatusLine(const QStringList& texts) : texts_(texts) {
+StatusLine::StatusLine(QStringList texts) : texts_(std::move(texts)) {
   QAccessible::installFactory(makeNotification);
   setTextFormat(Qt::PlainText);
   setWordWrap(true);

@@ -9,7 +9,7 @@ namespace launcher {
 class StatusLine : public QLabel {
  public:
   /// It is as wide as the longest of `texts` needs for two lines.
-  explicit StatusLine(const QStringList& texts);
+  explicit StatusLine(QStringList texts);
 
   /// Shows a text, and has a screen reader say it where it is another than before.
   void say(const QString& text);

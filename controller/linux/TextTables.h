@@ -3,6 +3,7 @@
 #include <QString>
 #include <QStringList>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace launcher {
@@ -17,7 +18,7 @@ struct TextTable {
   std::string_view language;  ///< as the folder is named, e.g. "zh-Hans"
   std::span<const Entry> entries;
 
-  QString name() const { return QString::fromUtf8(language.data(), qsizetype(language.size())); }
+  QString name() const { return QString::fromStdString(std::string(language)); }
 };
 
 /// All of them, made from the folders by the build.

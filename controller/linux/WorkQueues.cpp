@@ -1,6 +1,7 @@
 #include "controller/linux/WorkQueues.h"
 
-#include <QObject>
+#include <QCoreApplication>
+#include <QEvent>
 #include <deque>
 #include <mutex>
 #include <thread>
@@ -23,12 +24,9 @@ class MainQueue : public WorkQueue, private QObject {
   }
 
  private:
-  void wake() {
-    QMetaObject::invokeMethod(
-        this, [this] { runNext(); }, Qt::QueuedConnection);
-  }
+  void wake() { QCoreApplication::postEvent(this, new QEvent(QEvent::User)); }
 
-  void runNext() {
+  void customEvent(QEvent*) override {
     if (running_) return;
     const Item item = takeNext();
     if (!item) return;

@@ -20,7 +20,8 @@ void print(const viewer::Arguments& arguments) {
 
 /// The toolkit aborts where it finds no display. A viewer without one waits for its signal.
 void waitWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
-  while (type == QtFatalMsg) pause();
+  if (type != QtFatalMsg) return;
+  for (;;) pause();
 }
 
 int showWindow(char* program, const viewer::Arguments& arguments) {

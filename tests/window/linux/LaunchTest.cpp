@@ -22,7 +22,7 @@ class Availabilities : public QObject {
  protected:
   bool eventFilter(QObject* object, QEvent* event) override {
     if (event->type() == QEvent::EnabledChange) {
-      const bool enabled = static_cast<QWidget*>(object)->isEnabled();
+      const bool enabled = qobject_cast<QWidget*>(object)->isEnabled();
       noted.push_back(names_[object] + (enabled ? " on" : " off"));
     }
     return false;

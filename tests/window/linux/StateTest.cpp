@@ -101,7 +101,7 @@ TEST_F(StateTest, WhatAScreenReaderEntersIsEvaluated) {
 /// Counts how often widgets are painted.
 class Paints : public QObject {
  public:
-  explicit Paints(std::initializer_list<QWidget*> widgets) {
+  explicit Paints(const std::vector<QWidget*>& widgets) {
     for (QWidget* widget : widgets) widget->installEventFilter(this);
   }
 
@@ -118,8 +118,8 @@ TEST_F(StateTest, AKeyPaintsOnlyWhatItChanges) {
   open();
   enterLocation();
   window_->repaint();  // what is still to be painted
-  const Paints others({&button(), &statusLine(), &ipAddress()});
-  const Paints location({&this->location()});
+  const Paints others(std::vector<QWidget*>{&button(), &statusLine(), &ipAddress()});
+  const Paints location(std::vector<QWidget*>{&this->location()});
   type("/");
   EXPECT_TRUE(eventually([&] { return location.count > 0; }));
   EXPECT_EQ(others.count, 0);
@@ -127,13 +127,16 @@ TEST_F(StateTest, AKeyPaintsOnlyWhatItChanges) {
 
 class DarkTest : public WindowTest {
  protected:
-  DarkTest() {
+  void SetUp() override {
     QPalette dark(QColor(40, 40, 40));
     dark.setColor(QPalette::Text, Qt::white);
     dark.setColor(QPalette::WindowText, Qt::white);
     QApplication::setPalette(dark);
   }
-  ~DarkTest() override { QApplication::setPalette(before_); }
+  void TearDown() override {
+    WindowTest::TearDown();
+    QApplication::setPalette(before_);
+  }
 
  private:
   QPalette before_ = QApplication::palette();

@@ -14,10 +14,7 @@ std::string languageFor(const QStringList& person) {
 }
 
 TEST(TranslationsTest, TheFirstLanguageThatThereIsCounts) {
-  const struct {
-    QStringList person;
-    const char* table;
-  } cases[] = {
+  const std::vector<std::pair<QStringList, std::string>> cases = {
       {{QStringLiteral("de-AT")}, "de"},
       {{QStringLiteral("de-DE"), QStringLiteral("de")}, "de"},
       {{QStringLiteral("nl-NL"), QStringLiteral("fr")}, "fr"},

@@ -37,7 +37,7 @@ inline void settle(WorkQueue& mainQueue) {
 /// A launcher's window on a screen that nobody sees, in a world of doubles.
 class WindowTest : public testing::Test {
  protected:
-  ~WindowTest() override { close(); }
+  void TearDown() override { close(); }
 
   /// Shows the window; it is the active one, and its search is over.
   void open() {
@@ -65,13 +65,13 @@ class WindowTest : public testing::Test {
   }
 
   std::string status() const { return statusLine().text().toStdString(); }
-  QWidget* focus() const { return QApplication::focusWidget(); }
+  static QWidget* focus() { return QApplication::focusWidget(); }
 
   /// Types into what has the focus.
-  void type(std::string_view text) {
+  static void type(std::string_view text) {
     for (const char key : text) QTest::keyClick(focusedWindow(), key);
   }
-  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+  static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QTest::keyClick(focusedWindow(), key, modifiers);
   }
 
