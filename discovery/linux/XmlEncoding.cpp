@@ -42,13 +42,14 @@ std::string declaredEncoding(std::string_view document) {
   rest.remove_prefix(std::min(rest.find("encoding"), rest.size()));
   rest.remove_prefix(std::min(rest.find_first_of("\"'"), rest.size()));
   if (rest.empty()) return kUtf8;
-  return std::string(rest.substr(1, rest.find(rest.front(), 1) - 1));
+  constexpr std::size_t kLongestName = 40;
+  return std::string(rest.substr(1, std::min(rest.find(rest.front(), 1) - 1, kLongestName)));
 }
 
 std::string inUtf8From(const std::string& encoding, std::string_view bytes) {
   const iconv_t opened = iconv_open(kUtf8, encoding.c_str());
   const bool isKnown = opened != iconv_t(-1);  // NOLINT: so the function tells of a failure
-  if (!isKnown) throw UnreadableList("an unknown encoding: " + encoding.substr(0, 40));
+  if (!isKnown) throw UnreadableList("an unknown encoding: " + encoding);
   const std::unique_ptr<void, int (*)(iconv_t)> conversion(opened, iconv_close);
 
   std::string text;
@@ -60,7 +61,7 @@ std::string inUtf8From(const std::string& encoding, std::string_view bytes) {
     std::size_t room = piece.size();
     const std::size_t answer = iconv(conversion.get(), &input, &left, &output, &room);
     const bool isFull = answer == ~std::size_t{0} && errno == E2BIG;
-    if (left > 0 && !isFull) throw UnreadableList("bytes that are no " + encoding.substr(0, 40));
+    if (left > 0 && !isFull) throw UnreadableList("bytes that are no " + encoding);
     text.append(piece.data(), piece.size() - room);
     if (text.size() > kMostListBytes) throw UnreadableList("more than 16 MB");
   }

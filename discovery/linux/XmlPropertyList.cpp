@@ -8,6 +8,7 @@
 #include <exception>
 #include <functional>
 #include <memory>
+#include <new>
 #include <optional>
 #include <string>
 #include <utility>
@@ -166,6 +167,7 @@ constexpr XML_Memory_Handling_Suite kFrugalMemory = {
 class Parsing {
  public:
   Parsing() {
+    if (!parser_) throw std::bad_alloc();
     XML_SetUserData(parser_.get(), this);
     XML_SetElementHandler(
         parser_.get(),

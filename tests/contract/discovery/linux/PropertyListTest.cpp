@@ -144,6 +144,7 @@ TEST(PropertyListLinuxTest, ReadsEveryEncodingOfTheDesktop) {
       {"EUC-JP", "\xa4", "error"},
       {"utf-16", "a", "error"},
       {"EUC-JP//IGNORE", "a", "error"},
+      {"UTF-8" + std::string(1'000'000, ' '), "a", "error"},
   };
   for (const auto& [name, bytes, expected] : cases) {
     const std::string list = std::string("<?xml version='1.0' encoding='")
