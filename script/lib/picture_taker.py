@@ -14,9 +14,9 @@ import tempfile
 from desktop import screen_reader
 from desktop.attached_image import attached
 from desktop.download import ORIGIN
-from desktop.launcher import (LOOKING_UP, NO_URL, PROGRAM, READY, RUNNING_READY, Launcher)
+from desktop.launcher import LOOKING_UP, NO_URL, PROGRAM, READY, RUNNING_READY, Launcher
 from desktop.waiting import wait_until
-from desktop.window import press, type_text, windows_of
+from desktop.window import all_windows, press, type_text, windows_of
 
 BUILD = pathlib.Path(__file__).resolve().parents[2] / "build"
 APPLICATION = BUILD / "VorxLauncher.app"
@@ -75,12 +75,14 @@ class Photographer(Launcher):
         super().__init__(process, language)
         self._folder = folder
 
-    def take(self, name, window=None):
-        save(still_picture(window or self.on_display), self._folder / f"{name}.png")
+    def take(self, name, window):
+        save(still_picture(window), self._folder / f"{name}.png")
 
     def take_in(self, status, name):
         self.wait_for_status(status)
-        self.take(name)
+        self.on_display.activate()
+        self.wait_until_active()
+        self.take(name, self.on_display)
 
 
 @contextlib.contextmanager
@@ -111,6 +113,7 @@ def take_typed(language, folder):
             wait_until(lambda: windows_of(other.pid), "the other viewer is shown")
             launcher.click_on(launcher.button)
             launcher.take_in(LOOKING_UP, "looking-up")
+        wait_until(lambda: len(all_windows()) == 2, "the launcher's own viewer is shown")
         launcher.take_in(RUNNING_READY, "re-launch")
         launcher.enter(launcher.location, "")
         launcher.take_in(NO_URL, "re-launch-disabled")

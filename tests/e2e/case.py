@@ -101,6 +101,10 @@ class LauncherTest(unittest.TestCase):
         self.addCleanup(double.terminate)
         return double.pid
 
+    def start_companions(self):
+        """Two, of which a quit sequence that runs once ends one."""
+        self.companions = sorted([self.start_double("vexwatch"), self.start_double("vexwatch")])
+
     # What is done.
 
     def enter_location(self, location=LOCATION):
@@ -159,6 +163,16 @@ class LauncherTest(unittest.TestCase):
 
     def assert_ends(self, status=0):
         self.assertEqual(self.process.wait(timeout=60), status)
+
+    def assert_quit_sequence(self, viewer=None):
+        """The viewer and the first companion have been asked to end, and nobody else."""
+        first, second = self.companions
+        asked = {first} if viewer is None else {first, viewer}
+        for double in asked:
+            self.record.wait_for(double, "SIGTERM")
+        self.assertEqual({double for double, event in self.record.events() if event == "SIGTERM"},
+                         asked)
+        self.assertEqual(doubles.running("vexwatch"), [second])
 
     # What is left.
 

@@ -19,24 +19,22 @@ def display_of_its_own():
 
 class DisplayTest(LauncherTest):
     def test_the_launcher_ends_with_it_and_stops_its_viewer(self):
-        companion = self.start_double("vexwatch")
+        self.start_companions()
         with display_of_its_own():
             self.start()
             viewer = self.launch()
         self.assertNotEqual(self.process.wait(timeout=60), 0)
-        for asked in (viewer, companion):
-            self.record.wait_for(asked, "SIGTERM")
-            self.assertEqual(self.record.events().count((asked, "SIGTERM")), 1)
+        self.assert_quit_sequence(viewer)
 
     def test_an_alert_is_no_hindrance(self):
+        self.start_companions()
         with display_of_its_own():
-            companion = self.start_double("vexwatch")
             self.start()
             self.enter_location("https://nohost.invalid")
             self.press_launch()
             self.launcher.wait_for_alert()
         self.assertNotEqual(self.process.wait(timeout=60), 0)
-        self.record.wait_for(companion, "SIGTERM")
+        self.assert_quit_sequence()
 
     def test_without_one_a_line_says_so(self):
         environment = {name: value for name, value in os.environ.items()

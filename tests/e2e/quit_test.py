@@ -10,15 +10,19 @@ from desktop.waiting import wait_until
 
 class QuitTest(LauncherTest):
     def test_the_viewer_and_the_first_companion_are_asked_to_end(self):
-        first, second = sorted([self.start_double("vexwatch"), self.start_double("vexwatch")])
+        self.start_companions()
         self.start()
         viewer = self.launch()
-
         self.quit()
-        self.record.wait_for(viewer, "SIGTERM")
-        self.record.wait_for(first, "SIGTERM")
-        self.assertEqual(doubles.running("vexwatch"), [second])
-        self.assertNotIn((second, "SIGTERM"), self.record.events())
+        self.assert_quit_sequence(viewer)
+
+    def test_without_a_launch_only_the_companion_is(self):
+        other = self.start_double("vexlink")
+        self.start_companions()
+        self.start()
+        self.quit()
+        self.assert_quit_sequence()
+        self.assertEqual(doubles.running("vexlink"), [other])
 
     def test_a_viewer_that_has_ended_is_reaped(self):
         self.start()

@@ -19,13 +19,12 @@ class SessionEndTest(LauncherTest):
 
     def test_the_viewer_and_the_companion_are_asked_to_end(self):
         address = self.start_session_manager()
-        companion = self.start_double("vexwatch")
+        self.start_companions()
         self.start(environment={"SESSION_MANAGER": address})
         self.record.wait_for(self.manager.pid, "member")
         viewer = self.launch()
 
         self.manager.terminate()
         self.assert_ends()
-        for asked in (viewer, companion):
-            self.record.wait_for(asked, "SIGTERM")
+        self.assert_quit_sequence(viewer)
         self.assertEqual(self.manager.wait(timeout=60), 0)

@@ -5,24 +5,27 @@ import signal
 from case import LauncherTest
 from desktop.window import type_text
 
-SIGNALS = (signal.SIGTERM, signal.SIGINT, signal.SIGHUP)
-
 
 class SignalTest(LauncherTest):
     def end_by(self, number):
         self.process.send_signal(number)
         self.assert_ends()
 
-    def test_the_viewer_and_the_companion_are_asked_to_end_once(self):
-        for number in SIGNALS:
-            with self.subTest(number.name):
-                companion = self.start_double("vexwatch")
-                self.start()
-                viewer = self.launch()
-                self.end_by(number)
-                for asked in (viewer, companion):
-                    self.record.wait_for(asked, "SIGTERM")
-                    self.assertEqual(self.record.events().count((asked, "SIGTERM")), 1)
+    def assert_quits_at(self, number):
+        self.start_companions()
+        self.start()
+        viewer = self.launch()
+        self.end_by(number)
+        self.assert_quit_sequence(viewer)
+
+    def test_that_ends_programs(self):
+        self.assert_quits_at(signal.SIGTERM)
+
+    def test_that_a_terminal_sends_at_ctrl_c(self):
+        self.assert_quits_at(signal.SIGINT)
+
+    def test_that_a_terminal_sends_when_it_goes(self):
+        self.assert_quits_at(signal.SIGHUP)
 
     def test_an_alert_is_no_hindrance(self):
         self.start()
