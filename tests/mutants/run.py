@@ -13,7 +13,7 @@ from table import BrokenTable, read
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 COPIES = ROOT / "build" / "mutants"
-LIMIT_SECONDS = 120  # a mutant that makes the tests hang is noticed, too
+LIMIT_SECONDS = 600  # a mutant that makes the tests hang is noticed, too
 
 # Those that ask first are quick. A test program ends with another status than 0 where it notices.
 PROGRAMS = ["unit-tests", "diagnostics-tests", "contract-tests"]
