@@ -34,7 +34,7 @@ class Mutant:
         """The source with the change made."""
         lines = source.splitlines()
         found = [number for number, line in enumerate(lines) if line.strip() == self.old]
-        if len(found) < self.place or (len(found) > 1 and self.place == 0):
+        if not found or len(found) < self.place or (len(found) > 1 and self.place == 0):
             raise BrokenTable(f"{self.file}: {len(found)} lines read: {self.old}")
         number = found[max(self.place, 1) - 1]
         lines[number:number + 1] = self.new
