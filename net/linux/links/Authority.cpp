@@ -2,6 +2,7 @@
 
 #include <arpa/inet.h>
 
+#include "base/PercentEncoding.h"
 #include "base/Unicode.h"
 #include "net/linux/links/Traits.h"
 
@@ -13,13 +14,8 @@ constexpr std::size_t kLongestAddress = INET6_ADDRSTRLEN;
 
 bool isDigit(char16_t unit) { return unit >= u'0' && unit <= u'9'; }
 
-bool isHexDigit(char16_t unit) {
-  return isDigit(unit) || (unit >= u'a' && unit <= u'f') || (unit >= u'A' && unit <= u'F');
-}
-
 bool isEscape(std::u16string_view text, std::size_t at) {
-  return unitIs(text, at, u'%') && at + 2 < text.size() && isHexDigit(text[at + 1]) &&
-         isHexDigit(text[at + 2]);
+  return unitIs(text, at, u'%') && beginsWithEscape(utf8(text.substr(at, 3)));
 }
 
 /// Credentials end at the last "@" before the host.

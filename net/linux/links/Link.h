@@ -10,8 +10,7 @@ namespace launcher::links {
 
 /// A stretch of text that is a link, and where its host stands in it.
 struct Link {
-  std::string_view
-      scheme;  // what the URL begins with and the text leaves out: "http://", "mailto:"
+  std::string_view scheme;  ///< of the URL, where the text leaves it out: "http://", "mailto:"
   std::size_t begin = 0;
   std::size_t hostBegin = 0;
   std::size_t hostEnd = 0;
