@@ -174,7 +174,9 @@ TEST_F(ListingToolTest, TheToolMayGoWhileItsExitHandlerRuns) {
 }
 
 TEST_F(ListingToolTest, AWholeSearchJudgesWhatTheToolPrints) {
-  script("echo '<plist><dict><key>images</key>'; echo '<array/></dict></plist>'");
+  script(
+      "echo '<?xml version=\"1.0\"?><plist><dict><key>images</key>'; "
+      "echo '<array/></dict></plist>'");
   const auto start = std::chrono::steady_clock::now();
   const auto location = extractSourceFromDMG(
       [this] { return makeListingToolAt(program()); }, *makeSleeper(),
