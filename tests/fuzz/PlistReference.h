@@ -27,7 +27,7 @@ class PlistReference {
     plist_t root = nullptr;
     plist_from_bin(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &root);
     const std::unique_ptr<void, void (*)(plist_t)> owner(root, plist_free);
-    return root == nullptr || agree(value, valueOf(root));
+    return root == nullptr || agree(value, root);
   }
 
  private:
@@ -47,68 +47,47 @@ class PlistReference {
            text.find("\ufffd") == std::string_view::npos;
   }
 
-  static bool agree(const PropertyList& value, const PropertyList& second) {
-    if (value == PropertyList()) return true;
-    if (value.array() != nullptr && second.array() != nullptr) {
-      return std::ranges::equal(*value.array(), *second.array(), agree);
-    }
-    if (value.dictionary() != nullptr && second.dictionary() != nullptr) {
-      return std::ranges::equal(*value.dictionary(), *second.dictionary(), agreeOnEntry);
-    }
-    if (value.text() == nullptr || second.text() == nullptr) return false;
-    return agreeOnText(*value.text(), *second.text());
+  /// What is nothing to us is not looked into: the library does not survive all of it.
+  static bool agree(const PropertyList& value, plist_t node) {
+    if (const auto* text = value.text()) return agreeOnText(*text, node);
+    if (const auto* array = value.array()) return agreeOnArray(*array, node);
+    if (const auto* dictionary = value.dictionary()) return agreeOnDictionary(*dictionary, node);
+    return true;
   }
 
-  static bool agreeOnEntry(const std::pair<std::string, PropertyList>& entry,
-                           const std::pair<std::string, PropertyList>& second) {
-    return agreeOnText(entry.first, second.first) && agree(entry.second, second.second);
+  static bool agreeOnText(const std::string& text, plist_t node) {
+    if (plist_get_node_type(node) != PLIST_STRING) return false;
+    std::uint64_t size = 0;
+    const char* second = plist_get_string_ptr(node, &size);
+    return isSame(text, {second, size});
   }
 
-  static bool agreeOnText(const std::string& text, const std::string& second) {
+  static bool isSame(const std::string& text, std::string_view second) {
     return text == second || !isAscii(second);
   }
 
-  static PropertyList valueOf(plist_t node) {
-    switch (plist_get_node_type(node)) {
-      case PLIST_STRING:
-        return {textOf(node)};
-      case PLIST_ARRAY:
-        return arrayOf(node);
-      case PLIST_DICT:
-        return dictionaryOf(node);
-      default:
-        return {};
-    }
+  static bool agreeOnArray(const PropertyList::Array& array, plist_t node) {
+    if (plist_get_node_type(node) != PLIST_ARRAY) return false;
+    if (plist_array_get_size(node) != array.size()) return false;
+    std::uint32_t index = 0;
+    return std::ranges::all_of(array, [&](const PropertyList& item) {
+      return agree(item, plist_array_get_item(node, index++));
+    });
   }
 
-  static std::string textOf(plist_t node) {
-    std::uint64_t size = 0;
-    const char* text = plist_get_string_ptr(node, &size);
-    return {text, size};
-  }
-
-  static PropertyList arrayOf(plist_t node) {
-    PropertyList::Array array;
-    for (std::uint32_t i = 0; i < plist_array_get_size(node); ++i) {
-      array.push_back(valueOf(plist_array_get_item(node, i)));
-    }
-    return {std::move(array)};
-  }
-
-  static PropertyList dictionaryOf(plist_t node) {
-    PropertyList::Dictionary dictionary;
+  static bool agreeOnDictionary(const PropertyList::Dictionary& dictionary, plist_t node) {
+    if (plist_get_node_type(node) != PLIST_DICT) return false;
+    if (plist_dict_get_size(node) != dictionary.size()) return false;
     plist_dict_iter iterator = nullptr;
     plist_dict_new_iter(node, &iterator);
-    for (;;) {
+    const std::unique_ptr<void, void (*)(void*)> owner(iterator, std::free);
+    return std::ranges::all_of(dictionary, [&](const auto& entry) {
       char* key = nullptr;
-      plist_t value = nullptr;
-      plist_dict_next_item(node, iterator, &key, &value);
-      if (value == nullptr) break;
-      dictionary.emplace_back(key, valueOf(value));
-      std::free(key);
-    }
-    std::free(iterator);
-    return {std::move(dictionary)};
+      plist_t item = nullptr;
+      plist_dict_next_item(node, iterator, &key, &item);
+      const std::unique_ptr<char, void (*)(void*)> keyOwner(key, std::free);
+      return isSame(entry.first, key) && agree(entry.second, item);
+    });
   }
 };
 
