@@ -25,7 +25,12 @@ class OneLine : public QValidator {
   }
 };
 
+/// Shows the window through, also behind the placeholder, whose own colour is not readable on it in
+/// every desktop's dark colours.
 QPalette withoutBackground(QPalette palette) {
+  QColor pale = palette.color(QPalette::WindowText);
+  pale.setAlphaF(0.5F);
+  palette.setColor(QPalette::PlaceholderText, pale);
   palette.setBrush(QPalette::Base, Qt::transparent);
   return palette;
 }

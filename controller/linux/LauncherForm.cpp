@@ -1,5 +1,6 @@
 #include "controller/linux/LauncherForm.h"
 
+#include <QGraphicsOpacityEffect>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -44,10 +45,12 @@ class Maker {
     return made;
   }
 
-  /// Smaller and paler than the rest.
+  /// Smaller and paler than the rest, whatever the desktop's colours are.
   QLabel* hint(const LocalizableText& shown) const {
     auto* made = label(shown);
-    made->setForegroundRole(QPalette::PlaceholderText);
+    auto* pale = new QGraphicsOpacityEffect(made);
+    pale->setOpacity(0.6);
+    made->setGraphicsEffect(pale);
     QFont smaller = made->font();
     smaller.setPointSizeF(smaller.pointSizeF() * 0.85);
     made->setFont(smaller);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QShortcut>
 #include <QSignalBlocker>
 
@@ -20,6 +21,12 @@ QColor colour(AddressMark mark) {
       return QColorConstants::White;
   }
   Q_UNREACHABLE();
+}
+
+/// A text whose long words, such as host names, go on in the next line instead of being cut off.
+QString withBreaks(QString text) {
+  static const QRegularExpression longWord(QStringLiteral("(\\S{40})"));
+  return text.replace(longWord, QStringLiteral("\\1\u200B"));
 }
 
 }  // namespace
@@ -91,7 +98,7 @@ void MainWindow::showAlert(const Alert& alert) {
   box.setIcon(QMessageBox::Warning);
   box.setWindowTitle(windowTitle());
   box.setTextFormat(Qt::PlainText);
-  box.setText(QString::fromStdString(alert.message));
+  box.setText(withBreaks(QString::fromStdString(alert.message)));
   box.setInformativeText(QString::fromStdString(alert.informative));
   box.addButton(withoutMnemonic(QString::fromStdString(alert.button)), QMessageBox::AcceptRole);
 

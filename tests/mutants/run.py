@@ -17,6 +17,11 @@ LIMIT_SECONDS = 600  # a mutant that makes the tests hang is noticed, too
 
 # Those that ask first are quick. A test program ends with another status than 0 where it notices.
 PROGRAMS = ["unit-tests", "diagnostics-tests", "contract-tests"]
+WINDOW, WINDOW_PROGRAMS = "controller/linux/", ["qt-window-tests"]
+
+
+def programs_for(mutant):
+    return WINDOW_PROGRAMS if mutant.file.startswith(WINDOW) else PROGRAMS
 
 
 class Copy:
@@ -26,8 +31,8 @@ class Copy:
         self._root = COPIES / str(number)
         self._build = self._root / "build"
 
-    def prepare(self):
-        """Brings the copy up to date, builds it, and sees that its tests pass."""
+    def prepare(self, programs):
+        """Brings the copy up to date, builds the programs, and sees that they pass."""
         files = subprocess.run(["git", "ls-files", "-z"], cwd=ROOT, check=True, text=True,
                                stdout=subprocess.PIPE).stdout.split("\0")
         for name in filter(None, files):
@@ -35,7 +40,7 @@ class Copy:
         subprocess.run(["cmake", "-S", self._root, "-B", self._build, "-G", "Ninja",
                         "-DCMAKE_CXX_COMPILER=clang++", "-DCMAKE_BUILD_TYPE=None",
                         "-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"], check=True, stdout=subprocess.DEVNULL)
-        for program in PROGRAMS:
+        for program in programs:
             if not self._compiles(program) or not self._passes(program):
                 raise BrokenTable(f"{program} does not pass without a mutant")
 
@@ -67,7 +72,7 @@ class Copy:
         before = file.read_text(encoding="utf-8")
         file.write_text(mutant.applied(before), encoding="utf-8")
         try:
-            return next((program for program in PROGRAMS if self._fails(program, mutant)), None)
+            return next((program for program in programs_for(mutant) if self._fails(program, mutant)), None)
         finally:
             file.write_text(before, encoding="utf-8")
 
@@ -102,7 +107,8 @@ def judged(mutants):
 
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         made = [Copy(number) for number in range(os.cpu_count())]
-        for _ in pool.map(Copy.prepare, made):
+        programs = list(dict.fromkeys(sum(map(programs_for, mutants), [])))
+        for _ in pool.map(lambda copy: copy.prepare(programs), made):
             pass
         for copy in made:
             copies.put(copy)

@@ -177,6 +177,23 @@ TEST_F(LaunchTest, TheAlertShowsMarkupAsItIsTyped) {
   EXPECT_EQ(shown, QStringLiteral("<b>h</b>"));
 }
 
+TEST_F(LaunchTest, TheAlertShowsALongHostWhole) {
+  open();
+  const std::string host(253, 'a');
+  QString shown;
+  whenAlertIsUp([&](QMessageBox& alert) {
+    shown = alert.text();
+    const auto* label = alert.findChild<QLabel*>(QStringLiteral("qt_msgbox_label"));
+    const QRect needed =
+        label->fontMetrics().boundingRect(label->contentsRect(), Qt::TextWordWrap, label->text());
+    EXPECT_LE(needed.width(), label->width());
+    EXPECT_LE(needed.height(), label->height());
+    EXPECT_LE(alert.width(), alert.screen()->availableGeometry().width());
+  });
+  window_->showAlert({.message = host, .informative = "i", .button = "OK"});
+  EXPECT_EQ(shown.remove(QChar(0x200B)).toStdString(), host);
+}
+
 TEST_F(LaunchTest, AMinimizedWindowComesBackForTheAlert) {
   open();
   window_->showMinimized();

@@ -131,6 +131,7 @@ class DarkTest : public WindowTest {
     QPalette dark(QColor(40, 40, 40));
     dark.setColor(QPalette::Text, Qt::white);
     dark.setColor(QPalette::WindowText, Qt::white);
+    dark.setColor(QPalette::PlaceholderText, Qt::black);  // as some desktops leave it
     QApplication::setPalette(dark);
   }
   void TearDown() override {
@@ -155,9 +156,20 @@ TEST_F(DarkTest, TheFieldsKeepTheirColoursWithBlackText) {
   }
 }
 
-TEST_F(DarkTest, WhatIsTypedBeforeTheFirstEvaluationIsReadable) {
+TEST_F(DarkTest, TheHintsAreReadable) {
   open();
-  EXPECT_GT(ipAddress().palette().color(QPalette::PlaceholderText).lightness(), 100);
+  EXPECT_GT(ipAddress().palette().color(QPalette::PlaceholderText).lightness(), 200);
+  const auto labels = window_->findChildren<QLabel*>();
+  const auto hint = std::ranges::find_if(
+      labels, [](QLabel* label) { return label->text().startsWith(QStringLiteral("Optional")); });
+  const QImage picture = (*hint)->grab().toImage();
+  int brightest = 0;
+  for (int x = 0; x < picture.width(); ++x) {
+    for (int y = 0; y < picture.height(); ++y) {
+      brightest = std::max(brightest, picture.pixelColor(x, y).lightness());
+    }
+  }
+  EXPECT_GT(brightest, 120);
 }
 
 }  // namespace
