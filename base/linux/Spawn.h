@@ -23,11 +23,11 @@ class SpawnedChild {
 };
 
 struct SpawnOptions {
-  std::string path;                    ///< the executable; no search along PATH
-  std::vector<std::string> arguments;  ///< without the program's own name; cut at a NUL
-  int output = -1;                     ///< descriptor for both output streams; -1: inherited
-  std::function<void()> onExit;        ///< runs once on a thread of its own, after the reaping;
-                                       ///< must not throw
+  std::string path;                         ///< the executable; no search along PATH
+  std::vector<std::string> arguments = {};  ///< without the program's own name; cut at a NUL
+  int output = -1;                          ///< descriptor for both output streams; -1: inherited
+  std::function<void()> onExit = {};  ///< runs once on a thread of its own, after the reaping;
+                                      ///< must not throw
 };
 
 /// Starts a program. It inherits the environment and, of the descriptors, the standard three; no

@@ -38,9 +38,9 @@ class FakeProcessTable : public ProcessTable {
   /// filled in, as the product's kernel does.
   struct Answer {
     int result = 0;
-    int error = 0;                      ///< `errno` afterwards
-    std::optional<std::size_t> length;  ///< in bytes, afterwards; absent: see below
-    ProcessRecords records;             ///< filled in by a fetch
+    int error = 0;                           ///< `errno` afterwards
+    std::optional<std::size_t> length = {};  ///< in bytes, afterwards; absent: see below
+    ProcessRecords records = {};             ///< filled in by a fetch
   };
 
   ProcessRecords processes;                     ///< what the table holds

@@ -69,9 +69,8 @@ class DesktopSession {
  private:
   /// The bus may say something else first.
   std::string addressLine() const {
-    std::string line;
-    do line = pipe_.line();
-    while (!line.empty() && !line.starts_with("unix:"));
+    std::string line = pipe_.line();
+    while (!line.empty() && !line.starts_with("unix:")) line = pipe_.line();
     return line;
   }
 
