@@ -3,6 +3,7 @@
 namespace launcher {
 
 // The parts of the stand-in, each in the file of its name. Once, before any window is made.
+void installEventQueue();
 void installLayers();
 void installLayoutReading();
 void installOperationQueues();

@@ -11,6 +11,7 @@ namespace launcher {
 bool prepareToolkit() {
   if (std::getenv("DISPLAY") == nullptr) return false;
   @autoreleasepool {
+    installEventQueue();
     installLayers();
     installLayoutReading();
     installOperationQueues();

@@ -19,7 +19,8 @@ class AlertTest : public testing::Test {
  protected:
   void SetUp() override { clearStage(); }
 
-  const Alert alert_{"Failed \u2014 'h'", "Check it", "OK"};
+  // A title that no toolkit gives a button by itself.
+  const Alert alert_{"Failed \u2014 'h'", "Check it", "Understood"};
 };
 
 TEST_F(AlertTest, ShowsItsTextsAndItsButtonUntilItIsDismissed) {
@@ -33,6 +34,29 @@ TEST_F(AlertTest, ShowsItsTextsAndItsButtonUntilItIsDismissed) {
   WindowBridge(controller).showAlert(alert_);
   EXPECT_THAT(shown, testing::IsSupersetOf({alert_.message, alert_.informative, alert_.button}));
   EXPECT_EQ([NSApp modalWindow], nil);
+}
+
+TEST_F(AlertTest, HasOneButton) {
+  std::vector<std::string> titles;
+  [DuringAlert after:0.1
+                  do:[&titles] {
+                    titles = alertButtons();
+                    pressReturn();
+                  }];
+  WindowBridge(loadedController()).showAlert(alert_);
+  EXPECT_EQ(titles, std::vector{alert_.button});
+}
+
+TEST_F(AlertTest, StandsAboveTheFloatingWindow) {
+  LauncherWindowOnScreen window;
+  NSInteger level = 0;
+  [DuringAlert after:0.1
+                  do:[&level] {
+                    level = [[NSApp modalWindow] level];
+                    pressReturn();
+                  }];
+  WindowBridge(window.controller()).showAlert(alert_);
+  EXPECT_GT(level, [window.window() level]);
 }
 
 TEST_F(AlertTest, AnItemPostedMeanwhileRunsAfterwards) {

@@ -21,6 +21,7 @@ namespace launcher {
 
 /// The texts that the alert shows, and its buttons' titles.
 std::vector<std::string> alertTexts();
+std::vector<std::string> alertButtons();
 
 /// Presses Return as a person does: in the alert, or in a window.
 void pressReturn();

@@ -25,7 +25,10 @@
   }
 }
 
+/// An alert that is still coming up hears no key.
 - (void)act {
+  const bool isUp = [[NSApp modalWindow] isVisible];
+  if (!isUp) return [NSThread detachNewThreadSelector:@selector(wait) toTarget:self withObject:nil];
   _action();
 }
 
@@ -36,23 +39,34 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-/// However deep the toolkit puts them.
-void addTexts(NSView* view, Texts& texts) {
+/// Those of a kind that are shown, however deep the toolkit puts them.
+void addShown(NSView* view, Class kind, NSMutableArray* shown) {
   if ([view isHidden]) return;
-  if ([view isKindOfClass:[NSTextField class]]) {
-    texts.push_back(textOf(static_cast<NSTextField*>(view)));
-  } else if ([view isKindOfClass:[NSButton class]]) {
-    texts.push_back(toStdString([static_cast<NSButton*>(view) title]));
-  }
-  for (NSView* part in [view subviews]) addTexts(part, texts);
+  if ([view isKindOfClass:kind]) [shown addObject:view];
+  for (NSView* part in [view subviews]) addShown(part, kind, shown);
+}
+
+NSArray* shownInAlert(Class kind) {
+  NSMutableArray* shown = [NSMutableArray array];
+  addShown([[NSApp modalWindow] contentView], kind, shown);
+  return shown;
 }
 
 }  // namespace
 
 Texts alertTexts() {
-  Texts texts;
-  addTexts([[NSApp modalWindow] contentView], texts);
+  Texts texts = alertButtons();
+  for (NSTextField* field in shownInAlert([NSTextField class])) texts.push_back(textOf(field));
   return texts;
+}
+
+Texts alertButtons() {
+  Texts titles;
+  for (NSButton* button in shownInAlert([NSButton class])) {
+    const bool isIcon = [button action] == nullptr;
+    if (!isIcon) titles.push_back(toStdString([button title]));
+  }
+  return titles;
 }
 
 void pressReturn() { pressReturnIn([NSApp modalWindow]); }

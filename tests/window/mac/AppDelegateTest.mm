@@ -13,6 +13,7 @@
 #include "app/Services.h"
 #import "tests/window/mac/Messages.h"
 #import "tests/window/mac/Stage.h"
+#import "tests/window/mac/Windows.h"
 
 namespace launcher {
 
@@ -56,6 +57,7 @@ class AppDelegateTest : public testing::Test {
   void SetUp() override {
     clearStage();
     processesAtQuit().processes.clear();
+    processesAtQuit().searches = 0;
   }
 
   void quit() {
@@ -77,6 +79,22 @@ TEST_F(AppDelegateTest, ImplementsThreeOperationsOfTheProtocol) {
 
 TEST_F(AppDelegateTest, TheLastWindowClosesTheApplication) {
   EXPECT_TRUE([delegate_ applicationShouldTerminateAfterLastWindowClosed:NSApp]);
+}
+
+TEST_F(AppDelegateTest, FinishingTheLaunchDoesNothing) {
+  LauncherWindowOnScreen shown;
+  LaunchControl::sharedInstance().launchProc("h", "1.2.3.4");
+  const int searches = stage().processes.searches;
+  [delegate_ applicationDidFinishLaunching:
+                 [NSNotification notificationWithName:NSApplicationDidFinishLaunchingNotification
+                                               object:NSApp]];
+  finishWork(shown.controller());
+  EXPECT_EQ(stage().starter.starts.size(), 1U);
+  EXPECT_EQ(stage().starter.starts[0].process->terminations, 0);
+  EXPECT_EQ(stage().processes.searches, searches);
+  EXPECT_EQ(processesAtQuit().searches, 0);
+  EXPECT_EQ(textOf([shown.controller() vorxLocation]), "");
+  EXPECT_FALSE([[shown.controller() launchButton] isEnabled]);
 }
 
 TEST_F(AppDelegateTest, QuittingStopsTheViewer) {

@@ -32,6 +32,20 @@ TEST_F(EditTest, TypingIntoEitherFieldEvaluates) {
   EXPECT_TRUE(CGColorEqualToColor(ipColour(shown.controller()), [[NSColor redColor] CGColor]));
 }
 
+TEST_F(EditTest, TheAddressFieldIsGreenRedOrWhite) {
+  const std::vector<std::pair<NSString*, NSColor*>> cases = {
+      {@"10.0.0.5", [NSColor greenColor]}, {@"10.0.0", [NSColor redColor]},
+      {@" ", [NSColor redColor]},          {@"", [NSColor whiteColor]},
+      {@"fe80::1", [NSColor greenColor]},
+  };
+  ViewController* controller = loadedController();
+  for (const auto& [text, colour] : cases) {
+    [[controller ipAddress] setStringValue:text];
+    [controller updateState];
+    EXPECT_TRUE(CGColorEqualToColor(ipColour(controller), [colour CGColor])) << [text UTF8String];
+  }
+}
+
 TEST_F(EditTest, ShowsTheViewersStateInTheButton) {
   stage().processes.processes = {processRecord(7, "vexlink")};
   LauncherWindowOnScreen shown;

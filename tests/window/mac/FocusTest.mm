@@ -7,6 +7,28 @@
 #import "tests/window/mac/Stage.h"
 #import "tests/window/mac/Windows.h"
 
+/// Notes whether it is edited when it is disabled, and lets go of the focus when its text is set,
+/// as a field of the platform may.
+@interface LettingGoField : NSTextField {
+ @public
+  BOOL _wasEditedWhenDisabled;
+}
+@end
+
+@implementation LettingGoField
+
+- (void)setEnabled:(BOOL)enabled {
+  if (!enabled) _wasEditedWhenDisabled = [self currentEditor] != nil;
+  [super setEnabled:enabled];
+}
+
+- (void)setStringValue:(NSString*)text {
+  [[self window] makeFirstResponder:nil];
+  [super setStringValue:text];
+}
+
+@end
+
 namespace launcher {
 namespace {
 
@@ -26,6 +48,16 @@ class FocusTest : public testing::Test {
     return NSEqualRanges([[location() currentEditor] selectedRange], NSMakeRange(start, length));
   }
 
+  /// In the place of the location field, with the focus.
+  LettingGoField* lettingGoField() {
+    NSRect frame = [location() frame];
+    LettingGoField* field = [[[LettingGoField alloc] initWithFrame:frame] autorelease];
+    [[shown_.window() contentView] addSubview:field];
+    [shown_.controller() setVorxLocation:field];
+    [shown_.window() makeFirstResponder:field];
+    return field;
+  }
+
   LauncherWindowOnScreen shown_;
 };
 
@@ -34,6 +66,13 @@ TEST_F(FocusTest, ADisabledFieldIsNotEditedAndKeepsItsText) {
   setLocation(Availability::disabled);
   EXPECT_EQ([location() currentEditor], nil);
   EXPECT_EQ(textOf(location()), "https://h/");
+}
+
+TEST_F(FocusTest, AFieldIsNotEditedAnyMoreWhenItIsDisabled) {
+  LettingGoField* field = lettingGoField();
+  ASSERT_NE([field currentEditor], nil);
+  setLocation(Availability::disabled);
+  EXPECT_FALSE(field->_wasEditedWhenDisabled);
 }
 
 TEST_F(FocusTest, AFieldHasItBackWithItsSelection) {
@@ -94,6 +133,14 @@ TEST_F(FocusTest, AFoundLocationDoesNotTakeItAway) {
   settle();
   EXPECT_NE([location() currentEditor], nil);
   EXPECT_EQ(textOf(location()), "https://h/");
+}
+
+TEST_F(FocusTest, AFoundLocationGivesItBackWhereTheFieldLetsGoOfIt) {
+  LettingGoField* field = lettingGoField();
+  [shown_.controller() updateSourceLocationWithSource:@"https://h/"];
+  settle();
+  EXPECT_NE([field currentEditor], nil);
+  EXPECT_EQ(textOf(field), "https://h/");
 }
 
 /// Even where the address was edited before, so that the next key edits the location.

@@ -5,6 +5,7 @@
 #include <atomic>
 #include <thread>
 
+#import "controller/mac/OperationQueues.h"
 #import "controller/mac/WindowBridge.h"
 #import "tests/window/mac/Stage.h"
 
@@ -56,6 +57,29 @@ TEST_F(LifetimeTest, EndsWithItsLastOwner) {
   EXPECT_EQ(ended, 0);
   [controller release];
   EXPECT_TRUE(eventually([] { return ended == 1; }));
+}
+
+TEST_F(LifetimeTest, ItsEndTerminatesNothing) {
+  LaunchControl::sharedInstance().launchProc("h", "1.2.3.4");
+  const auto viewer = stage().starter.starts.at(0).process;
+  [loaded() release];
+  EXPECT_TRUE(eventually([] { return ended == 1; }));
+  EXPECT_EQ(viewer->terminations, 0);
+  EXPECT_EQ(LaunchControl::sharedInstance().runningProcess(), viewer);
+}
+
+TEST_F(LifetimeTest, ItsEndCancelsNothing) {
+  WatchedController* controller = loaded();
+  NSOperationQueue* queue = [[controller backgroundQueue] retain];
+  [queue setSuspended:YES];
+  bool ran = false;
+  makeWorkQueue(queue)->add([&ran] { ran = true; });
+  [controller release];
+  EXPECT_TRUE(eventually([] { return ended == 1; }));
+  [queue setSuspended:NO];
+  [queue waitUntilAllOperationsAreFinished];
+  EXPECT_TRUE(ran);
+  [queue release];
 }
 
 TEST_F(LifetimeTest, AQueuedItemKeepsTheControllerAlive) {

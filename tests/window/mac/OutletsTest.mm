@@ -26,6 +26,19 @@ TEST(OutletsDeathTest, AlsoToTheOperationsThatReadThem) {
   EXPECT_DEATH([unconnected() launchButtonClick:nil], report);
 }
 
+#if __has_feature(objc_arc_weak)
+/// AppKit's stand-in knows no weak references.
+TEST(OutletsDeathTest, OneIsNotConnectedAnyMoreWhenItsControlHasGone) {
+  ViewController* controller = unconnected();
+  @autoreleasepool {
+    NSTextField* field = [[NSTextField alloc] init];
+    [controller setVorxLocation:field];
+    [field release];
+  }
+  EXPECT_DEATH([controller vorxLocation], report);
+}
+#endif
+
 TEST(OutletsTest, AreWrittenAndReadBack) {
   ViewController* controller = unconnected();
   NSButton* button = [[[NSButton alloc] init] autorelease];
