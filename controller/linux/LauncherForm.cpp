@@ -41,6 +41,7 @@ class Maker {
 
   QLabel* label(const LocalizableText& shown) const {
     auto* made = new QLabel(withoutMnemonic(text(shown)));
+    made->setTextFormat(Qt::PlainText);
     made->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     return made;
   }

@@ -16,14 +16,16 @@ int neededWidth(const QString& text, const QFontMetrics& metrics) {
     const QRect room(0, 0, width, std::numeric_limits<int>::max());
     return metrics.boundingRect(room, Qt::TextWordWrap, text).height();
   };
-  int width = metrics.horizontalAdvance(text) / lines;
-  while (height(width) > lines * metrics.lineSpacing()) width += metrics.averageCharWidth();
+  const int inOneLine = metrics.horizontalAdvance(text);
+  int width = inOneLine / lines;
+  while (width < inOneLine && height(width) > lines * metrics.lineSpacing()) {
+    width += std::max(metrics.averageCharWidth(), 1);
+  }
   return width;
 }
 
 /// Screen readers say a notification when it is shown, a label only where they are asked to.
-QAccessibleInterface* makeNotification(const QString& className, QObject* object) {
-  Q_UNUSED(className);
+QAccessibleInterface* makeNotification(const QString&, QObject* object) {
   auto* line = dynamic_cast<StatusLine*>(object);
   return line == nullptr ? nullptr : new QAccessibleWidget(line, QAccessible::Notification);
 }
