@@ -1,10 +1,14 @@
 # Sourced by script/bootstrap: what a Mac needs, checked and told; nothing is installed.
 
+# The C++ library of an older Xcode lacks parts of C++20 that the code uses.
+readonly oldest_xcode=15
+
 bootstrap() {
-  local tool list=""
-  xcodebuild -version >/dev/null 2>&1 ||
-    fail "needs Xcode; install it, then: sudo xcode-select -s /Applications/Xcode.app"
-  for tool in cmake ninja; do
+  local version tool list=""
+  version=$(xcodebuild -version 2>/dev/null | sed -n 's/^Xcode \([0-9]*\).*/\1/p' || true)
+  [ "${version:-0}" -ge "$oldest_xcode" ] ||
+    fail "needs Xcode $oldest_xcode or later; install it, then: sudo xcode-select -s /Applications/Xcode.app"
+  for tool in cmake ninja pytest; do
     command -v "$tool" >/dev/null || list="$list $tool"
   done
   command -v rsvg-convert >/dev/null || list="$list librsvg"
