@@ -56,7 +56,7 @@ std::string Url::filePath() const {
 Url Url::deletingLastPathComponent() const {
   @autoreleasepool {
     NSURL* url = platformUrl(text_);
-    if ([[url path] length] <= 1) return *this;
+    if ([[url path] length] == 0 || [[url path] isEqualToString:@"/"]) return *this;
     NSURL* shortened = [url URLByDeletingLastPathComponent];
     return shortened == nil ? *this : Url(toStdString([shortened absoluteString]));
   }
