@@ -10,7 +10,7 @@
 namespace launcher {
 namespace {
 
-/// What a value takes with all that it holds.
+/// The memory and depth of a value, with everything that it holds.
 struct Extent {
   std::size_t memory = 0;  ///< 0: not known yet
   int depth = 0;           ///< the levels from the value down to its deepest part
@@ -20,8 +20,8 @@ class Walk {
  public:
   explicit Walk(const ObjectTable& table) : table_(table), extents_(table.count()) {}
 
-  /// The extent of a value that lies at a depth. The check of the depth ends a walk along a list
-  /// that refers to itself.
+  /// The extent of a value at `depth`. The check of the depth also stops at a list that refers to
+  /// itself.
   Extent extentOf(std::uint64_t reference, int depth) {
     checkDepth(depth);
     BinaryObject object = table_.object(reference);
@@ -56,7 +56,7 @@ class Walk {
     throw UnreadableList("an object of an unknown kind");
   }
 
-  /// An empty text is written in ASCII; the readers of macOS refuse one that is not.
+  /// macOS refuses an empty text in UTF-16: it writes empty texts in ASCII.
   static Extent wideText(BinaryObject& object) {
     const std::string_view units = object.take(object.takeCount(), 2);
     if (units.empty()) throw UnreadableList("an empty text in UTF-16");
@@ -65,7 +65,7 @@ class Walk {
 
   static Extent leaf(std::size_t size) { return {valueMemory(size), 1}; }
 
-  /// All the keys stand before all the values.
+  /// All keys come first, then all values.
   Extent dictionary(BinaryObject& object, int depth) {
     const std::uint64_t count = object.takeCount();
     const References keys = table_.takeReferences(object, count);

@@ -8,7 +8,7 @@
 /// lower), perhaps a longer size, and its content. An array or a dictionary holds references, which
 /// are indices into the table. All numbers have their highest byte first.
 ///
-/// Every operation throws `UnreadableList` where the bytes say something else.
+/// Every operation throws `UnreadableList` for bytes of another form.
 namespace launcher {
 
 enum class ObjectKind {
@@ -25,10 +25,10 @@ enum class ObjectKind {
   dictionary = 0xD,
 };
 
-/// The number that bytes hold; of more than eight the last eight count.
+/// The number in the bytes. Of more than eight bytes the last eight count.
 std::uint64_t bigEndian(std::string_view bytes);
 
-/// One object's bytes, consumed from its marker on.
+/// One object, read step by step from its marker on.
 class BinaryObject {
  public:
   explicit BinaryObject(std::string_view rest);
@@ -38,10 +38,10 @@ class BinaryObject {
   /// The marker's lower half.
   std::uint64_t low() const { return low_; }
 
-  /// The number of items: in the marker, or after it where there are 15 or more.
+  /// Reads the number of items. The marker holds it up to 14; a larger number follows the marker.
   std::uint64_t takeCount();
 
-  /// The next so many items of a size that is not 0.
+  /// Reads the bytes of the next `count` items of `size` bytes each; `size` is not 0.
   std::string_view take(std::uint64_t count, std::uint64_t size = 1);
 
  private:
@@ -50,7 +50,7 @@ class BinaryObject {
   std::uint64_t low_ = 0;
 };
 
-/// References to objects, consumed one by one.
+/// References to objects, read one by one.
 class References {
  public:
   References(std::string_view bytes, std::uint64_t size) : bytes_(bytes), size_(size) {}
@@ -60,10 +60,10 @@ class References {
 
  private:
   std::string_view bytes_;
-  std::uint64_t size_;  ///< of one reference in bytes, from 1
+  std::uint64_t size_;  ///< of one reference in bytes, at least 1
 };
 
-/// The table of offsets, and the bytes before it, into which they point.
+/// The table of offsets, and the objects before it, to which the offsets point.
 class ObjectTable {
  public:
   /// `bytes` are the whole list and must outlive the table and its objects.
@@ -76,7 +76,7 @@ class ObjectTable {
 
   BinaryObject object(std::uint64_t reference) const;
 
-  /// The next so many references that an object holds.
+  /// Reads the next `count` references of an object.
   References takeReferences(BinaryObject& object, std::uint64_t count) const;
 
  private:

@@ -11,8 +11,8 @@
 namespace launcher {
 namespace {
 
-/// The attribute's bytes at the size that it had at first: where it has shrunk meanwhile, zeros
-/// follow. Absent where it is missing, has grown, cannot be read or is too large to be a list.
+/// The attribute's bytes. If it shrinks between the two reads, zeros fill the rest. Absent if it is
+/// missing, grows between the reads, cannot be read or is too large to be a list.
 std::optional<std::string> attributeBytes(const std::string& path,
                                           const OriginAttribute& attribute) {
   const std::ptrdiff_t size = attribute.read(path, nullptr, 0);
@@ -34,7 +34,7 @@ const std::string* firstText(const PropertyList& list) {
   return allTexts ? texts->front().text() : nullptr;
 }
 
-/// The first address that a list records, or absent.
+/// The first address in a list, or absent.
 std::optional<Url> firstAddress(std::string_view bytes) {
   const PropertyListReading reading = readPropertyList(bytes);
   if (!reading.value) return std::nullopt;

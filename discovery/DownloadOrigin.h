@@ -8,9 +8,9 @@
 
 namespace launcher {
 
-/// The server location from which a file was downloaded: the first address that its origin
-/// attribute records, without its last path component. Absent where the attribute is missing,
-/// unreadable or of another shape. `file` is a file URL. Any thread.
+/// The server location from which a file was downloaded: the first address in its origin attribute,
+/// without the last path component. Absent if the attribute is missing, unreadable or of another
+/// shape. `file` is a file URL. Any thread.
 ///
 ///     recorded "https://h/D/F.dmg"   -> "https://h/D/"
 std::optional<std::string> extractWhereAreYouFrom(const Url& file,

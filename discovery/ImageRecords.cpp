@@ -40,8 +40,7 @@ bool isMountedAt(const PropertyList::Dictionary& entity, const std::string& fold
   return canonicallyEqual(*mountPoint, folder);
 }
 
-/// Asks once for each of the image's volumes that is mounted at the folder, until there is an
-/// answer.
+/// Asks once for each volume of the image that is mounted at the folder, until there is an answer.
 std::optional<std::string> locationOf(const PropertyList::Dictionary& image,
                                       const std::string& folder, const OriginReader& origin) {
   const std::string* imagePath = textAt(image, "image-path");

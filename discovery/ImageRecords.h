@@ -10,13 +10,12 @@
 
 namespace launcher {
 
-/// Asks for the server location recorded on a disk image file.
+/// Returns the server location recorded on a disk image file, or absent.
 using OriginReader = std::function<std::optional<std::string>(const Url& imageFile)>;
 
-/// Finds the attached disk images that have a volume mounted exactly at the folder that holds the
-/// application, and returns the first location that `origin` gives for one of them, in the
-/// listing's order. Records that lack a key or hold a value of another kind are passed over.
-/// Any thread.
+/// Looks for attached disk images with a volume mounted exactly at the application's parent folder.
+/// Asks `origin` about them in the listing's order and returns its first answer. Skips records that
+/// lack a key or hold a value of another kind. Any thread.
 std::optional<std::string> processDMGData(const PropertyList::Dictionary& listing,
                                           const ApplicationBundle& bundle,
                                           const OriginReader& origin);

@@ -16,15 +16,14 @@ void log(const Message& message) {
   SDLog(message, "ViewController", "extractSourceFromDMG()");
 }
 
-/// What the calling thread and the tool's two handlers share, for as long as one of them is at
-/// work.
+/// Shared by the calling thread and the tool's two handlers. The last of them destroys it.
 struct Search {
   std::string output;
   std::optional<std::string> location;
   Semaphore done;
 };
 
-/// The bytes as a text, or absent where they are none.
+/// The bytes as a text, or absent if they are not UTF-8.
 std::optional<std::string_view> asText(std::string_view bytes) {
   return isUtf8(bytes) ? std::optional(bytes) : std::nullopt;
 }
@@ -45,8 +44,8 @@ std::optional<std::string> judged(std::string_view output, const ListingJudge& j
   return std::nullopt;
 }
 
-/// What follows the tool's end. The pause alone lets the tool's last output arrive; after it, the
-/// output handler must be gone before the output is read.
+/// Runs after the tool has ended. The pause lets its last output arrive. The output handler must be
+/// gone before the output is read.
 void toolEnded(ListingTool& tool, Search& search, Sleeper& sleeper, const ListingJudge& judge) {
   constexpr double kSecondsForLastOutput = 1.0;
   log("the listing tool has ended");
@@ -63,8 +62,8 @@ std::optional<std::string> extractSourceFromDMG(const ListingToolMaker& makeTool
   const auto search = std::make_shared<Search>();
   const std::shared_ptr<ListingTool> tool = makeTool();
 
-  // The exit handler may refer to what is this thread's own, since this thread waits for its
-  // signal. It co-owns the semaphore: it may still be inside `signal()` when this thread returns.
+  // The exit handler may refer to this thread's variables, since this thread waits for its signal.
+  // It co-owns the semaphore: it may still be inside `signal()` when this thread returns.
   tool->setExitHandler(
       [search, &tool = *tool, &sleeper, &judge] { toolEnded(tool, *search, sleeper, judge); });
   tool->setOutputHandler([search](std::string_view bytes) { search->output += bytes; });

@@ -10,16 +10,16 @@
 
 namespace launcher {
 
-/// Judges a listing: the server location that it leads to, or absent.
+/// Returns the server location that a listing leads to, or absent.
 using ListingJudge =
     std::function<std::optional<std::string>(const PropertyList::Dictionary& listing)>;
 
-/// Runs the listing tool and returns what `judge` makes of its output; absent where the tool cannot
-/// be started or its output is no property list. A listing whose top level is anything but a
-/// dictionary with text keys ends the program.
+/// Runs the listing tool and returns what `judge` finds in its output. Absent if the tool cannot be
+/// started or its output is no property list. Ends the program if the listing's top level is not a
+/// dictionary with text keys.
 ///
-/// Blocks until the tool has ended and its output has been judged, a second later; no time limit.
-/// `judge` is called on another thread. Any thread but the main one.
+/// Blocks without a time limit: until the tool has ended, then another second, then `judge`, which
+/// runs on another thread. Any thread but the main one.
 std::optional<std::string> extractSourceFromDMG(const ListingToolMaker& makeTool, Sleeper& sleeper,
                                                 const ListingJudge& judge);
 

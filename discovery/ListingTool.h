@@ -9,8 +9,8 @@
 
 namespace launcher {
 
-/// One run of the platform's tool that lists the attached disk images as a property list, its
-/// output and error streams joined in one pipe.
+/// One run of the platform's tool that lists the attached disk images as a property list. One pipe
+/// takes both its output and error streams.
 class ListingTool {
  public:
   using OutputHandler = std::function<void(std::string_view bytes)>;
@@ -18,25 +18,27 @@ class ListingTool {
 
   virtual ~ListingTool() = default;
 
-  /// Before the launch: has `handler` called on another thread with each piece of output as it
-  /// comes. The empty handler removes it, at any time but from within it: once this returns no call
-  /// is under way and none follows, even if a child of the tool still holds the output open.
+  /// Before the launch: sets the handler that is called on another thread with each piece of output
+  /// as it comes. An empty handler removes it, at any time, but not from within the handler. Once
+  /// this returns, no call is under way and none follows, even if a child of the tool still holds
+  /// the output open.
   virtual void setOutputHandler(OutputHandler handler) = 0;
 
-  /// Before the launch: has `handler` called once on another thread after the tool has ended.
+  /// Before the launch: sets the handler that is called once, on another thread, after the tool has
+  /// ended.
   virtual void setExitHandler(ExitHandler handler) = 0;
 
-  /// Starts the tool. False where that is impossible; then no handler is ever called.
+  /// Starts the tool. False if that fails; then no handler is ever called.
   virtual bool launch() = 0;
 
   /// After the launch: blocks until the tool has ended; the exit handler may still be running.
   virtual void waitUntilExit() = 0;
 };
 
-/// Makes one run of the tool, not yet started.
+/// Makes one run of the tool and does not start it.
 using ListingToolMaker = std::function<std::shared_ptr<ListingTool>()>;
 
-/// One run of the program at `path`, which is asked for the attached disk images, not yet started.
+/// Makes one run of the listing tool at `path` and does not start it.
 ///
 ///     makeListingToolAt("/usr/bin/hdiutil")->launch()
 std::shared_ptr<ListingTool> makeListingToolAt(const std::string& path);

@@ -6,16 +6,16 @@
 
 namespace launcher {
 
-/// The attribute in which a file's download origin is recorded: a property list holding an array
-/// of texts, the first of them the address that the file came from.
+/// The file attribute that records a download's origin: a property list with an array of texts. The
+/// first text is the address that the file came from.
 class OriginAttribute {
  public:
   virtual ~OriginAttribute() = default;
 
-  /// In the manner of `getxattr`: without a buffer (null, 0) the attribute's size in bytes; with
-  /// one, the number of bytes written to it. -1 on any failure: no such file or attribute, a
-  /// buffer that is too small. Symbolic links are followed. May block for seconds where the desktop
-  /// has to be asked; any thread but the main one.
+  /// Works like `getxattr`. Without a buffer (null, 0) it returns the attribute's size in bytes;
+  /// with one, the number of bytes written. It returns -1 on any failure: no such file or
+  /// attribute, a buffer that is too small. It follows symbolic links. It may block for seconds
+  /// while it asks the desktop; any thread but the main one.
   virtual std::ptrdiff_t read(const std::string& path, std::byte* buffer,
                               std::size_t size) const = 0;
 };

@@ -3,11 +3,12 @@
 #include <cstddef>
 #include <stdexcept>
 
-/// How far a property list may go. Whoever reads one asks before anything is made, so that a list
-/// of a few bytes, nested or referring to one value many times, costs neither time nor memory.
+/// The limits of a property list. Readers check them before they make values: a list of a few bytes
+/// may be deeply nested or refer to one value many times, and must cost neither time nor memory.
 namespace launcher {
 
-/// Thrown for bytes that are no property list, or too much of one; says what is wrong with them.
+/// Thrown for bytes that are no property list or go beyond the limits. Says what is wrong with
+/// them.
 class UnreadableList : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -21,15 +22,15 @@ inline constexpr std::size_t kMostListMemory = 32U << 20U;
 
 inline constexpr int kDeepestNesting = 512;
 
-/// Roughly the memory of one value or key with that much text.
+/// The approximate memory of one value or key with `textSize` bytes of text.
 constexpr std::size_t valueMemory(std::size_t textSize) { return 64 + textSize; }
 
-/// Refuses a list whose values take too much memory together.
+/// Refuses a list whose values together take too much memory.
 inline void checkMemory(std::size_t memory) {
   if (memory > kMostListMemory) throw UnreadableList("too many values");
 }
 
-/// Refuses a value that lies in too many others. The outermost has depth 1.
+/// Refuses a value that is nested too deeply. The outermost value has depth 1.
 inline void checkDepth(int depth) {
   if (depth > kDeepestNesting) throw UnreadableList("nested too deeply");
 }

@@ -14,7 +14,7 @@ class Semaphore {
 
   void signal();
 
-  /// Blocks, without a time limit, until a signal can be taken.
+  /// Blocks without a time limit until there is a signal, and takes it.
   void wait();
 
  private:

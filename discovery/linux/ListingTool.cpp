@@ -17,8 +17,8 @@
 namespace launcher {
 namespace {
 
-/// A thread that hands on what comes out of a pipe, until its end or until it is told to stop: the
-/// pipe ends only when every program that inherited it has, the tool's own children among them.
+/// A thread that passes on a pipe's output until the pipe ends or the thread is told to stop. The
+/// pipe ends only after every program that inherited it has ended, including the tool's children.
 class OutputReader {
  public:
   OutputReader(Descriptor pipe, ListingTool::OutputHandler handler)
@@ -26,7 +26,7 @@ class OutputReader {
   OutputReader(const OutputReader&) = delete;
   OutputReader& operator=(const OutputReader&) = delete;
 
-  /// No call of the handler is under way once this is done, and none follows.
+  /// Once this returns, no call of the handler is under way and none follows.
   ~OutputReader() {
     eventfd_write(stop_.number(), 1);
     thread_.join();

@@ -16,8 +16,8 @@
 #include "base/linux/Descriptor.h"
 #include "base/linux/Spawn.h"
 
-// The desktop's tool is asked rather than its library loaded: a store that hangs or crashes does so
-// in another process.
+// This file runs the desktop's tool instead of loading its library, so that a store that hangs or
+// crashes does so in another process.
 namespace launcher {
 namespace {
 
@@ -31,8 +31,8 @@ std::string variable(const char* name) {
   return value == nullptr ? "" : value;
 }
 
-/// The store is behind the session's bus. Without one the tool could start a bus of its own, which
-/// would stay.
+/// The session bus leads to the store. Without one the tool could start a bus of its own and leave
+/// it running.
 bool hasSessionBus() {
   if (!variable("DBUS_SESSION_BUS_ADDRESS").empty()) return true;
   const std::string folder = variable("XDG_RUNTIME_DIR");
@@ -40,7 +40,7 @@ bool hasSessionBus() {
   return !folder.empty() && std::filesystem::exists(folder + "/bus", ignored);
 }
 
-/// Whether something can be read before the deadline.
+/// Waits for output. False if none comes before the deadline.
 bool awaitOutput(const Descriptor& pipe, Clock::time_point deadline) {
   pollfd event{pipe.number(), POLLIN, 0};
   while (true) {
@@ -52,7 +52,7 @@ bool awaitOutput(const Descriptor& pipe, Clock::time_point deadline) {
   }
 }
 
-/// What comes out of a pipe until its end. Absent where that takes too long or is too much.
+/// Everything that a pipe holds up to its end. Absent if that takes too long or is too much.
 std::optional<std::string> outputOf(const Descriptor& pipe, Clock::time_point deadline) {
   std::string output;
   std::array<char, 4096> buffer{};
@@ -71,7 +71,7 @@ std::shared_ptr<SpawnedChild> start(const std::string& tool, const std::string& 
                 .output = output.number()});
 }
 
-/// What the tool says about a file, or absent.
+/// The tool's output about a file, or absent.
 std::optional<std::string> answer(const std::string& path, const MetadataTool& tool) try {
   const auto deadline = Clock::now() + tool.limit;
   PipeEnds pipe = PipeEnds::make();
@@ -84,8 +84,8 @@ std::optional<std::string> answer(const std::string& path, const MetadataTool& t
   return std::nullopt;
 }
 
-/// The last line without its end. Only there can the attribute stand: the lines before may hold the
-/// file's name, and that may hold anything.
+/// The last line without its line feed. Only this line counts: the lines before it may hold the
+/// file's name, which may imitate an attribute.
 std::string_view lastLine(std::string_view output) {
   if (output.ends_with('\n')) output.remove_suffix(1);
   return output.substr(output.rfind('\n') + 1);

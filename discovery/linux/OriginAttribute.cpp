@@ -16,13 +16,13 @@
 namespace launcher {
 namespace {
 
-/// The attribute as a copy from macOS carries it.
+/// The attribute's name on a file that was copied from macOS.
 constexpr const char* kWhereFroms = "user.com.apple.metadata:kMDItemWhereFroms";
 
-/// What downloaders on Linux record: the address itself.
+/// The attribute that downloaders on Linux write. It holds the address itself.
 constexpr const char* kOriginUrl = "user.xdg.origin.url";
 
-/// The attribute's bytes, or absent. The kernel keeps none larger than the buffer.
+/// The attribute's bytes, or absent. The kernel allows no attribute larger than the buffer.
 std::optional<std::string> attributeValue(const std::string& path, const char* name) {
   std::array<char, XATTR_SIZE_MAX> buffer{};
   const ssize_t size = getxattr(path.c_str(), name, buffer.data(), buffer.size());
@@ -30,26 +30,26 @@ std::optional<std::string> attributeValue(const std::string& path, const char* n
   return std::string(buffer.data(), static_cast<std::size_t>(size));
 }
 
-/// Whether a list can hold it: an address has no control characters, and a list is UTF-8.
+/// Whether a list can hold the text: an address has no control characters, and a list is UTF-8.
 bool isAddress(std::string_view text) {
   return !text.empty() && isUtf8(text) &&
          std::none_of(text.begin(), text.end(), [](unsigned char c) { return c < ' '; });
 }
 
-/// The address that a file came from, as it is recorded with the file, else by the desktop.
+/// The address that a file came from: recorded with the file, else by the desktop.
 std::optional<std::string> recordedAddress(const std::string& path) {
   const std::optional<std::string> address = attributeValue(path, kOriginUrl);
   return address ? address : downloadAddress(path);
 }
 
-/// The list that another system would have recorded, or absent.
+/// The address as macOS records it, in a property list; or absent.
 std::optional<std::string> originList(const std::string& path) {
   const std::optional<std::string> address = recordedAddress(path);
   if (!address || !isAddress(*address)) return std::nullopt;
   return xmlPropertyList("<array><string>" + xmlText(*address) + "</string></array>");
 }
 
-/// Whether a file has no such attribute, or lies where files have none.
+/// Whether the file has no such attribute, or its file system has no attributes at all.
 bool meansNoAttribute(int error) { return error == ENODATA || error == ENOTSUP; }
 
 std::ptrdiff_t copied(std::string_view bytes, std::byte* buffer, std::size_t size) {

@@ -12,7 +12,7 @@
 namespace launcher {
 namespace {
 
-/// Makes the values of a binary list that has been checked.
+/// Reads a binary list that has passed `checkBinaryList`.
 class BinaryReader {
  public:
   explicit BinaryReader(std::string_view bytes) : table_(bytes) {}
@@ -36,7 +36,7 @@ class BinaryReader {
     }
   }
 
-  /// A unit of one byte is a character of Latin-1, whatever the kind's name says.
+  /// A unit of one byte is a Latin-1 character, although the kind is called ASCII.
   static PropertyList readText(BinaryObject& object, std::size_t unitSize) {
     const std::string_view bytes = object.take(object.takeCount(), unitSize);
     if (unitSize == 1 && isAscii(bytes)) return {std::string(bytes)};

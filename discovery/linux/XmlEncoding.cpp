@@ -22,7 +22,7 @@ struct Mark {
   const char* encoding;
 };
 
-/// The longer marks first: that of UTF-32 begins as that of UTF-16.
+/// Longer marks come first: UTF-32's mark begins like UTF-16's.
 constexpr std::array<Mark, 5> kMarks = {{{"\xFF\xFE\0\0"sv, "UTF-32LE"},
                                          {"\0\0\xFE\xFF"sv, "UTF-32BE"},
                                          {"\xEF\xBB\xBF"sv, kUtf8},
@@ -34,8 +34,8 @@ std::string_view withoutBlanks(std::string_view document) {
   return document;
 }
 
-/// The encoding that the document's declaration names, else UTF-8. Whether the declaration is right
-/// is for the parser to say.
+/// The encoding that the document's declaration names, else UTF-8. The parser checks the rest of
+/// the declaration.
 std::string declaredEncoding(std::string_view document) {
   if (!document.starts_with("<?xml")) return kUtf8;
   std::string_view rest = document.substr(0, document.find("?>"));
@@ -72,7 +72,7 @@ std::string_view inUtf8From(const std::string& encoding, std::string_view bytes,
                             std::string& converted) {
   const bool isUtf8 = strcasecmp(encoding.c_str(), kUtf8) == 0;
   const std::string_view text = isUtf8 ? bytes : (converted = inUtf8From(encoding, bytes));
-  // The parser would take it for a sign of UTF-16.
+  // The parser would take a NUL for a sign of UTF-16.
   if (text.find('\0') != std::string_view::npos) throw UnreadableList("a NUL in a text");
   return withoutBlanks(text);
 }

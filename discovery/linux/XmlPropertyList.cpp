@@ -41,14 +41,14 @@ Kind kindOf(std::string_view name) {
   throw UnreadableList("an unknown element");
 }
 
-/// An element that is open, and what it holds so far.
+/// An open element, and its content so far.
 struct Element {
   explicit Element(Kind elementKind) : kind(elementKind) {}
 
   Kind kind;
   std::string text;
   PropertyList::Array values;
-  std::optional<std::string> key;  ///< whose value is still to come
+  std::optional<std::string> key;  ///< set while its value is still to come
   PropertyList::Dictionary entries;
 
   bool holdsElements() const {
@@ -92,14 +92,15 @@ struct Element {
     return std::move(values.front());
   }
 
-  /// In XML the last of two equal keys counts, in a dictionary the first.
+  /// Of two equal keys, XML keeps the last, our dictionary the first.
   PropertyList takeDictionary() {
     if (key) throw UnreadableList("a key without a value");
     std::reverse(entries.begin(), entries.end());
     return {std::move(entries)};
   }
 
-  /// Nobody asks for numbers and dates. But a list is read on every platform, or on none.
+  /// Checks numbers and dates although nobody reads them, so that every platform accepts the same
+  /// lists.
   void checkOther() const {
     if (kind == Kind::integer && !isInteger(text)) throw UnreadableList("no integer");
     if (kind == Kind::real && !isReal(text)) throw UnreadableList("no real number");
@@ -109,7 +110,7 @@ struct Element {
 
 bool isBlank(char c) { return c == ' ' || c == '\t' || c == '\r' || c == '\n'; }
 
-/// What the parser finds, one thing after another, and the value that comes of it.
+/// Takes the parser's events one after another and makes the value.
 class XmlReader {
  public:
   void begin(std::string_view name) {
@@ -136,7 +137,7 @@ class XmlReader {
     open_.back().add(kind, std::move(value));
   }
 
-  /// A comment or an instruction.
+  /// Called at a comment or a processing instruction.
   void interrupt() {
     if (open_.back().holdsText()) throw UnreadableList("a comment in a text");
   }
@@ -149,7 +150,7 @@ class XmlReader {
     checkMemory(memory_);
   }
 
-  std::vector<Element> open_{Element(Kind::list)};  ///< the first one is the document
+  std::vector<Element> open_{Element(Kind::list)};  ///< the first element is the document
   std::size_t memory_ = 0;
 };
 
@@ -158,12 +159,12 @@ void* frugalRealloc(void* block, std::size_t size) {
   return size > kLargestBlock ? nullptr : std::realloc(block, size);
 }
 
-/// What the parser itself has to keep is small, or made to be large: attributes without end, a
-/// comment of megabytes. Then it tells of a lack of memory.
+/// The parser itself needs little memory, except for documents made to exhaust it: endless
+/// attributes, a comment of megabytes. For those it reports a lack of memory.
 constexpr XML_Memory_Handling_Suite kFrugalMemory = {
     [](std::size_t size) { return frugalRealloc(nullptr, size); }, frugalRealloc, std::free};
 
-/// Lets a reader see what the parser finds. The parser is C, which no exception may pass.
+/// Passes the parser's events to a reader. No exception may pass through the parser, which is C.
 class Parsing {
  public:
   Parsing() {
@@ -188,7 +189,7 @@ class Parsing {
     refuseEntities();
   }
 
-  /// In pieces, since the parser copies what it is given.
+  /// Parses in pieces, since the parser copies its input.
   PropertyList read(std::string_view document) {
     constexpr std::size_t kPiece = 64U << 10U;
     do {

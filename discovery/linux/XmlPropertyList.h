@@ -8,9 +8,9 @@ namespace launcher {
 
 /// Reads a property list in XML. Throws `UnreadableList`.
 ///
-/// Nothing is fetched and no entity is known but the five of every document: a document type may be
-/// named, but not declare anything. Attributes say nothing about a property list and are passed
-/// over. Comments may stand between elements, not in texts.
+/// Fetches nothing, and knows only XML's five own entities: a document may name its type but
+/// declare nothing. Ignores attributes, which mean nothing in a property list. Comments may stand
+/// between elements, not inside texts.
 PropertyList readXmlPropertyList(std::string_view bytes);
 
 }  // namespace launcher

@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::string_view kReplacement = "\ufffd";
 
-/// What stands for an ASCII character.
+/// An ASCII character as it is written in XML.
 std::string_view escaped(const char& character) {
   switch (character) {
     case '&':
@@ -26,7 +26,7 @@ std::string_view escaped(const char& character) {
   return isKnown ? std::string_view(&character, 1) : kReplacement;
 }
 
-/// The text without the two characters beyond ASCII that XML does not know.
+/// Replaces the two characters beyond ASCII that XML does not allow.
 std::string withoutNoncharacters(std::string text) {
   for (const std::string_view unknown : {"\uFFFE", "\uFFFF"}) {
     for (std::size_t at = text.find(unknown); at != std::string::npos;

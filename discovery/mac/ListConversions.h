@@ -4,14 +4,15 @@
 
 #include "discovery/PropertyList.h"
 
-/// From Foundation's property lists to ours. Any thread.
+/// Converts Foundation's property lists to ours. Any thread.
 namespace launcher {
 
-/// The list that an object is, whatever its kind. Throws `UnreadableList` where it goes beyond the
-/// limits, which one with parts that are referred to many times soon does.
+/// Converts an object of any kind. Throws `UnreadableList` for a list beyond the limits: a small
+/// list may refer to its parts many times.
 PropertyList toPropertyList(id object);
 
-/// The dictionary; empty where it goes beyond the limits, or has a key that is no text.
+/// Converts a dictionary. The result is empty if the dictionary goes beyond the limits or has a key
+/// that is no text.
 PropertyList::Dictionary toDictionary(NSDictionary* dictionary);
 
 }  // namespace launcher

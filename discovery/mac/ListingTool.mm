@@ -6,8 +6,8 @@
 namespace launcher {
 namespace {
 
-/// The output handler, apart from the tool: the platform's reader may be in a call of it when it is
-/// taken away.
+/// Holds the output handler apart from the tool: the platform's reader may be calling it while it
+/// is removed.
 class Output {
  public:
   void setHandler(ListingTool::OutputHandler handler) {
@@ -25,7 +25,7 @@ class Output {
   ListingTool::OutputHandler handler_;
 };
 
-/// Reading raises an exception where the pipe fails; there is nothing more to read then.
+/// `availableData` raises an exception if the pipe fails; then there is nothing more to read.
 NSData* availableData(NSFileHandle* handle) {
   @try {
     return [handle availableData];
@@ -37,14 +37,14 @@ NSData* availableData(NSFileHandle* handle) {
 void readSome(NSFileHandle* handle, Output& output) {
   NSData* data = availableData(handle);
   if ([data length] == 0) {
-    // Otherwise the platform calls again and again at the end of the output.
+    // At the end of the output the platform would call this handler again and again.
     [handle setReadabilityHandler:nil];
   } else {
     output.handle({static_cast<const char*>([data bytes]), [data length]});
   }
 }
 
-/// The platform reports a tool that it cannot start by an exception.
+/// `launch` raises an exception if it cannot start the tool.
 bool launched(NSTask* task) {
   @try {
     [task launch];
@@ -82,8 +82,8 @@ class TaskTool : public ListingTool {
     }];
   }
 
-  /// The handler may let go of this run, and with it of the platform's copy of the handler, which
-  /// is still being called then.
+  /// The handler may release this run, and with it the platform's copy of the handler. Call a copy,
+  /// so that the handler outlives its own call.
   void setExitHandler(ExitHandler handler) override {
     [task_ setTerminationHandler:^(NSTask* /*task*/) {
       const ExitHandler called = handler;

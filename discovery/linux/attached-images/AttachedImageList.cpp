@@ -8,7 +8,7 @@ namespace {
 
 std::string pathOf(const BlockDevice& device) { return "/dev/" + device.name; }
 
-/// Where each device is mounted as a whole, by its path.
+/// The places where each whole device is mounted, by the device's path.
 class MountPoints {
  public:
   MountPoints(const std::vector<LoopDevice>& loops, const std::vector<Mount>& mounts) {
@@ -27,14 +27,14 @@ class MountPoints {
   }
 
  private:
-  /// A source is any name that was given at mounting, but btrfs, which has numbers of its own,
-  /// shows the device's path there.
+  /// btrfs has device numbers of its own and shows the device's path as the source. Elsewhere the
+  /// source may be any name that was given when mounting.
   std::optional<std::string> deviceOf(const Mount& mount) const {
     if (const auto known = paths_.find(mount.number); known != paths_.end()) return known->second;
     return mount.type == "btrfs" ? std::optional(mount.source) : std::nullopt;
   }
 
-  std::unordered_map<std::string, std::string> paths_;  ///< of devices, by number
+  std::unordered_map<std::string, std::string> paths_;  ///< device paths by number
   std::unordered_map<std::string, std::vector<std::string>> mountPoints_;
 };
 

@@ -9,10 +9,10 @@
 
 namespace launcher {
 
-/// A device of an image, and one place where it is mounted.
+/// A device of an image, and a place where it is mounted.
 struct ImageEntity {
   std::string device;                     ///< such as "/dev/loop0p1"
-  std::optional<std::string> mountPoint;  ///< absent where it is not mounted
+  std::optional<std::string> mountPoint;  ///< absent if it is not mounted
 
   friend bool operator==(const ImageEntity&, const ImageEntity&) = default;
 };
@@ -24,9 +24,10 @@ struct AttachedImage {
   friend bool operator==(const AttachedImage&, const AttachedImage&) = default;
 };
 
-/// Brings images and mounts together: an entity for each place where a device is mounted, in the
-/// mount table's order, or one for a device that is not. Only what a path leads to counts, and only
-/// a whole file system: neither a mount that another one covers nor a folder bound elsewhere.
+/// Finds the mounts of each image: an entity for each place where a device is mounted, in the mount
+/// table's order, or a single one for a device that is not mounted. A mount counts if a path leads
+/// to it and it shows the whole file system; a mount that another one covers does not count, nor a
+/// folder bound elsewhere.
 std::vector<AttachedImage> attachedImages(const std::vector<LoopDevice>& loops,
                                           const std::vector<Mount>& mounts);
 

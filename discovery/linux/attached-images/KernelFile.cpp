@@ -13,7 +13,7 @@ std::optional<std::string> readKernelFile(const std::string& path) {
     stream.read(buffer.data(), buffer.size());
     text.append(buffer.data(), static_cast<std::size_t>(stream.gcount()));
   }
-  // At the end of the file nothing but the end was in the way.
+  // The reading stopped at the end of the file, not at an error.
   return stream.eof() && !stream.bad() ? std::optional(std::move(text)) : std::nullopt;
 }
 

@@ -5,8 +5,8 @@
 
 namespace launcher {
 
-/// All that a file of the kernel's says at the moment; absent where it is missing, cannot be read,
-/// or fails while it is read because what it tells of has gone.
+/// The content of one of the kernel's files. Absent if it is missing, cannot be read, or fails
+/// while it is read, since the device that it describes has gone.
 std::optional<std::string> readKernelFile(const std::string& path);
 
 }  // namespace launcher

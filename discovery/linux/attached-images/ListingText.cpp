@@ -9,7 +9,7 @@
 namespace launcher {
 namespace {
 
-/// A key and its text, on a line each.
+/// A key and its text, each on its own line.
 std::string entry(std::string_view indent, std::string_view key, std::string_view text) {
   return std::string(indent) + "<key>" + std::string(key) + "</key>\n" + std::string(indent) +
          "<string>" + xmlText(text) + "</string>\n";
@@ -29,7 +29,7 @@ std::string imageElement(const AttachedImage& image) {
   return element + "\t\t\t</array>\n\t\t</dict>\n";
 }
 
-/// Well-formed text on one line.
+/// The bytes as well-formed text on one line.
 std::string printable(std::string_view bytes) {
   std::string text;
   for (const char c : repairedUtf8(bytes)) {

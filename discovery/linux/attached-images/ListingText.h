@@ -7,13 +7,13 @@
 
 namespace launcher {
 
-/// The images as a property list in XML: under "images" an array with a dictionary for each,
-/// holding "image-path" and "system-entities", an array of dictionaries with "dev-entry" and, where
-/// the device is mounted, "mount-point". Bytes that XML cannot hold become U+FFFD.
+/// The images as an XML property list. The key "images" holds an array with a dictionary for each
+/// image: "image-path" and "system-entities", an array of dictionaries with "dev-entry" and, for a
+/// mounted device, "mount-point". Bytes that XML cannot hold become U+FFFD.
 std::string propertyListOf(const std::vector<AttachedImage>& images);
 
-/// The images as a text for reading. Control characters are shown as the kernel's mount table shows
-/// them, a line feed as "\012".
+/// The images as a text for people. Control characters appear as in the kernel's mount table: a
+/// line feed as "\012".
 ///
 ///     /home/me/Launcher.dmg
 ///         /dev/loop0    not mounted

@@ -17,7 +17,7 @@ using Path = std::filesystem::path;
 /// The partitions of a loop device by number; 0 is the whole device.
 using Partitions = std::map<unsigned, std::string>;
 
-/// Takes a prefix and the number that follows it.
+/// Consumes a prefix and the number that follows it.
 std::optional<unsigned> takeNumber(std::string_view& text, std::string_view prefix) {
   if (!text.starts_with(prefix)) return std::nullopt;
   text.remove_prefix(prefix.size());
@@ -28,7 +28,7 @@ std::optional<unsigned> takeNumber(std::string_view& text, std::string_view pref
   return number;
 }
 
-/// Files "loop3" and "loop3p1" under 3.
+/// Enters "loop3" and "loop3p1" under 3.
 void addDevice(std::map<unsigned, Partitions>& loops, const std::string& name) {
   std::string_view rest = name;
   const std::optional<unsigned> loop = takeNumber(rest, "loop");
@@ -37,7 +37,7 @@ void addDevice(std::map<unsigned, Partitions>& loops, const std::string& name) {
   if (partition && rest.empty()) loops[*loop][*partition] = name;
 }
 
-/// What a file says, without the line feed that the kernel adds.
+/// A file's content without the line feed that the kernel adds.
 std::optional<std::string> line(const Path& file) {
   std::optional<std::string> text = readKernelFile(file);
   if (text && text->ends_with('\n')) text->pop_back();

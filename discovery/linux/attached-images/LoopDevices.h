@@ -15,17 +15,17 @@ struct BlockDevice {
 
 /// A loop device with an image attached to it.
 struct LoopDevice {
-  std::string imagePath;  ///< as the kernel has it; " (deleted)" follows a removed image's
+  std::string imagePath;  ///< the kernel's; " (deleted)" follows it if the image was removed
   std::vector<BlockDevice> devices;  ///< the whole device, then its partitions
 
   friend bool operator==(const LoopDevice&, const LoopDevice&) = default;
 };
 
 /// The loop devices that have an image, in the order of their numbers. `folder` is the kernel's
-/// list of block devices, as a rule "/sys/class/block"; devices that vanish meanwhile or cannot be
-/// read are left out.
+/// list of block devices, usually "/sys/class/block". Leaves out devices that vanish meanwhile or
+/// cannot be read.
 ///
-/// Throws `std::system_error` where the folder cannot be read.
+/// Throws `std::system_error` if the folder cannot be read.
 std::vector<LoopDevice> readLoopDevices(const std::string& folder);
 
 }  // namespace launcher

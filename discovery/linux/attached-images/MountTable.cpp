@@ -30,7 +30,7 @@ bool beginsWithEscape(std::string_view text) {
          std::all_of(text.begin() + 1, text.begin() + 4, isOctalDigit);
 }
 
-/// The byte of three octal digits.
+/// The byte that three octal digits stand for.
 char octalByte(std::string_view digits) {
   unsigned value = 0;
   for (const char digit : digits) value = value * 8U + static_cast<unsigned>(digit - '0');
@@ -53,7 +53,7 @@ std::optional<int> parseNumber(std::string_view text) {
   return error == std::errc() && rest == text.end() ? std::optional(number) : std::nullopt;
 }
 
-/// A line's fields are separated by one blank: the mount's identifier and its parent's, the
+/// Reads a line. One blank separates its fields: the mount's identifier and its parent's, the
 /// device's number, the mounted folder, the mount point, options, any number of tags, "-", the file
 /// system's type, the source.
 std::optional<Mount> parseLine(std::string_view line) {
@@ -75,7 +75,7 @@ std::optional<Mount> parseLine(std::string_view line) {
                unescaped(end[2])};
 }
 
-/// Leads from paths to mounts, as the kernel does.
+/// Finds the mount for a path, as the kernel does.
 class MountTree {
  public:
   explicit MountTree(const std::vector<Mount>& mounts) {
@@ -90,7 +90,8 @@ class MountTree {
   /// The mount that a path leads to.
   int at(const std::string& path) const {
     int mount = kOutside;
-    std::size_t steps = children_.size();  // not without end where the table runs in circles
+    std::size_t steps =
+        children_.size();  // the limit ends the walk in a table that runs in circles
     const auto enter = [&](const std::string& folder) {
       for (auto child = children_.find({mount, folder}); child != children_.end() && steps > 0;
            child = children_.find({mount, folder}), --steps) {
@@ -106,7 +107,7 @@ class MountTree {
   }
 
  private:
-  static constexpr int kOutside = 0;  ///< the parent of what is mounted at the top
+  static constexpr int kOutside = 0;  ///< the parent of the outermost mount
 
   std::map<std::pair<int, std::string>, int> children_;  ///< by parent and mount point
 };

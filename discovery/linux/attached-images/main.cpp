@@ -62,7 +62,7 @@ int run(const Arguments& arguments) {
 }  // namespace
 
 int main(int argc, char** argv) try {
-  // A reader that has gone is reported like any other failure.
+  // Without the signal, writing to a closed pipe fails and is reported like any other failure.
   std::signal(SIGPIPE, SIG_IGN);
   return run({argv + std::min(argc, 1), argv + argc});
 } catch (const std::exception& error) {
