@@ -3,6 +3,7 @@
 import subprocess
 
 from case import GREEN, RED, WHITE, LauncherTest
+from desktop.picture import picture_of
 from desktop.waiting import wait_until
 from desktop.window import type_text
 
@@ -63,5 +64,8 @@ class WindowTest(LauncherTest):
         self.assert_legible(address, GREEN)
 
     def assert_legible(self, field, background):
+        """Within its border the field shows black text."""
         self.wait_for_colour(field, background)
-        self.assertTrue(self.launcher.picture_of(field).has((0, 0, 0)))
+        left, top, width, height = field.frame
+        inside = picture_of("root").crop(left + 6, top + 6, width - 12, height - 12)
+        self.assertTrue(inside.has((0, 0, 0)))
