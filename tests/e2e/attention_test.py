@@ -69,6 +69,7 @@ class AttentionTest(LauncherTest):
         self.look_up()
         switch_to_desktop(1)
         self.addCleanup(switch_to_desktop, 0)
+        wait_until(lambda: not self.launcher.window.active, "the launcher is left")
         self.alert()
         wait_until(lambda: is_in(self.launcher.on_display, "DEMANDS_ATTENTION"),
                    "the task bar calls for attention")

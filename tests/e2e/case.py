@@ -101,9 +101,10 @@ class LauncherTest(unittest.TestCase):
         self.addCleanup(double.terminate)
         return double.pid
 
-    def start_companions(self):
-        """Two, of which a quit sequence that runs once ends one."""
+    def start_with_companions(self, **environment):
+        """Starts the launcher, whose signals are recorded, beside two companions."""
         self.companions = sorted([self.start_double("vexwatch"), self.start_double("vexwatch")])
+        self.start(environment={"LD_PRELOAD": str(doubles.KILL_RECORDER), **environment})
 
     # What is done.
 
@@ -165,14 +166,13 @@ class LauncherTest(unittest.TestCase):
         self.assertEqual(self.process.wait(timeout=60), status)
 
     def assert_quit_sequence(self, viewer=None):
-        """The viewer and the first companion have been asked to end, and nobody else."""
-        first, second = self.companions
-        asked = {first} if viewer is None else {first, viewer}
+        """The viewer and the first companion have been asked to end, once; and nobody else."""
+        asked = [self.companions[0]] if viewer is None else [viewer, self.companions[0]]
         for double in asked:
             self.record.wait_for(double, "SIGTERM")
-        self.assertEqual({double for double, event in self.record.events() if event == "SIGTERM"},
-                         asked)
-        self.assertEqual(doubles.running("vexwatch"), [second])
+        sent = [event for process, event in self.record.events() if process == self.process.pid]
+        self.assertEqual(sent, [f"kill:{double}" for double in asked])
+        self.assertEqual(doubles.running("vexwatch"), self.companions[1:])
 
     # What is left.
 

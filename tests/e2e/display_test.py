@@ -19,17 +19,15 @@ def display_of_its_own():
 
 class DisplayTest(LauncherTest):
     def test_the_launcher_ends_with_it_and_stops_its_viewer(self):
-        self.start_companions()
         with display_of_its_own():
-            self.start()
+            self.start_with_companions()
             viewer = self.launch()
         self.assertNotEqual(self.process.wait(timeout=60), 0)
         self.assert_quit_sequence(viewer)
 
     def test_an_alert_is_no_hindrance(self):
-        self.start_companions()
         with display_of_its_own():
-            self.start()
+            self.start_with_companions()
             self.enter_location("https://nohost.invalid")
             self.press_launch()
             self.launcher.wait_for_alert()

@@ -12,6 +12,7 @@ from desktop.waiting import wait_until
 BUILT = pathlib.Path(__file__).resolve().parents[2] / "build/tests/e2e"
 DOUBLE = BUILT / "e2e-double"
 SLOW_RESOLVER = BUILT / "libslow-resolver.so"
+KILL_RECORDER = BUILT / "libkill-recorder.so"
 
 
 class Record:

@@ -35,7 +35,6 @@ class InputMethodTest(LauncherTest):
     def test_composed_by_the_keyboard(self):
         self.set_keyboard()
         self.start()
-        self.launcher.wait_until_active()
         press("Multi_key", "quotedbl", "u", "dead_acute", "e")
         self.wait_for_location("üé")
 
@@ -43,7 +42,6 @@ class InputMethodTest(LauncherTest):
         self.set_keyboard()
         self.start_input_method()
         self.start(environment={"QT_IM_MODULE": "ibus"})
-        self.launcher.wait_until_active()
 
         # The input method joins in a while after the window is shown; until then keys are just keys.
         def composed():

@@ -17,10 +17,6 @@ def put_on_clipboard(text):
 
 
 class KeyboardTest(LauncherTest):
-    def start(self, *words, **options):
-        super().start(*words, **options)
-        self.launcher.wait_until_active()
-
     def wait_for_location(self, text):
         wait_until(lambda: self.launcher.location.text == text, f"the location is '{text[:80]}'")
 

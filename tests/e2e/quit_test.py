@@ -10,16 +10,14 @@ from desktop.waiting import wait_until
 
 class QuitTest(LauncherTest):
     def test_the_viewer_and_the_first_companion_are_asked_to_end(self):
-        self.start_companions()
-        self.start()
+        self.start_with_companions()
         viewer = self.launch()
         self.quit()
         self.assert_quit_sequence(viewer)
 
     def test_without_a_launch_only_the_companion_is(self):
         other = self.start_double("vexlink")
-        self.start_companions()
-        self.start()
+        self.start_with_companions()
         self.quit()
         self.assert_quit_sequence()
         self.assertEqual(doubles.running("vexlink"), [other])

@@ -19,8 +19,7 @@ class SessionEndTest(LauncherTest):
 
     def test_the_viewer_and_the_companion_are_asked_to_end(self):
         address = self.start_session_manager()
-        self.start_companions()
-        self.start(environment={"SESSION_MANAGER": address})
+        self.start_with_companions(SESSION_MANAGER=address)
         self.record.wait_for(self.manager.pid, "member")
         viewer = self.launch()
 

@@ -12,8 +12,7 @@ class SignalTest(LauncherTest):
         self.assert_ends()
 
     def assert_quits_at(self, number):
-        self.start_companions()
-        self.start()
+        self.start_with_companions()
         viewer = self.launch()
         self.end_by(number)
         self.assert_quit_sequence(viewer)

@@ -42,7 +42,6 @@ class SlowResolverTest(LauncherTest):
 
     def test_who_typed_the_location_types_on_after_the_launch(self):
         self.start_with_slow_resolver()
-        self.launcher.wait_until_active()
         type_text("https://localhost/path")
         self.launcher.wait_for_status(READY)
         press("shift+Left", "shift+Left", "shift+Left", "shift+Left", "Return")
@@ -56,7 +55,6 @@ class SlowResolverTest(LauncherTest):
 
     def test_who_has_gone_elsewhere_stays_there(self):
         self.start_with_slow_resolver()
-        self.launcher.wait_until_active()
         type_text("https://localhost")
         self.launcher.wait_for_status(READY)
         press("Return")

@@ -26,7 +26,7 @@ def texts_in(language):
 
 
 class Launcher:
-    """The window of a running process, in one language. It is shown and has all its parts on
+    """The window of a running process, in one language. It is shown in its place and has the keys on
     return."""
 
     def __init__(self, process, language="en"):
@@ -40,7 +40,8 @@ class Launcher:
 
     def _shown(self):
         known = program(self.process.pid)
-        return known and windows_of(self.process.pid) and known.find_window(self.texts[TITLE])
+        window = known and known.find_window(self.texts[TITLE])
+        return window and window.active and window
 
     # What is seen.
 
