@@ -1,49 +1,67 @@
-"""Builds what is measured, measures it apart from the machine, and shows the table; see
-script/bench."""
+"""Takes the figures of the named groups, or of all, and shows the table; see script/bench. Runs apart
+from the machine, with a display."""
 
-import json
+import os
 import pathlib
-import subprocess
+import platform
 import sys
 import tempfile
+import time
 
-import plot
+import launches
+import small
+import starts
 import table
-from project import APART, BUILD, ROOT, build
+from desktop.processes import adopt_orphans, end_descendants
+from windows import APPLICATION, PROGRAM
 
-DOCUMENT = ROOT / "docs/performance.md"
-NUMBERS = ROOT / "docs/performance.json"
-PICTURE = ROOT / "docs/performance-growth.svg"
-
-
-def measured(groups):
-    with tempfile.TemporaryDirectory(prefix="bench-", dir=BUILD) as place:
-        folder = pathlib.Path(place)
-        results = folder / "results.json"
-        done = subprocess.run([APART, "--display", sys.executable, "-B", ROOT / "bench/runner/measure.py",
-                               results, *groups], stdin=subprocess.DEVNULL)
-        if not results.exists():
-            raise SystemExit(f"script/bench: nothing was measured (status {done.returncode})")
-        return json.loads(results.read_text())
+DOCUMENT = pathlib.Path(__file__).resolve().parents[2] / "docs/performance.md"
 
 
-def write(result):
-    machine = result["machine"]
-    taken = (f"Taken on {machine['date']} on {machine['processor']}, Linux {machine['kernel']}, with a "
-             f"load of {machine['load']:.1f} from elsewhere.")
-    NUMBERS.write_text(json.dumps(result, indent=1, ensure_ascii=False) + "\n")
-    DOCUMENT.write_text(table.put_into(DOCUMENT.read_text(),
-                                       f"{taken}\n\n{table.as_markdown(result['rows'])}"))
-    PICTURE.write_text(plot.growth(list(result["growth"].items())))
+def sizes():
+    carried = [file for file in APPLICATION.rglob("*") if file.is_file() and file.name != "vexlink"]
+    files = {"size of the program": [APPLICATION / PROGRAM], "size of the application without the viewer": carried,
+             "size of the image": [starts.IMAGE]}
+    return [table.Figure(what, "MB", {table.OURS: [sum(file.lstat().st_size for file in those) / 1e6]},
+                         [table.under(35, "MB")] if those == [starts.IMAGE] else [])
+            for what, those in files.items()]
 
 
-def main(groups):
-    build("application", "bench-small", "bench-stage")
-    result = measured(groups)
-    print(table.as_text(result["rows"]))
+# Every group's figures, given a home for the programs.
+GROUPS = {
+    "start": [starts.warm],
+    "image": [starts.from_image],
+    "found": [launches.found],
+    "press": [launches.presses],
+    "processes": [lambda home, count=count: small.among(count, home) for count in (100, 1000, 5000)],
+    "links": [lambda _: small.links()],
+    "lists": [lambda _: small.property_lists()],
+    "size": [lambda _: sizes()],
+}
+
+
+def machine():
+    lines = pathlib.Path("/proc/cpuinfo").read_text().splitlines()
+    models = [line.split(":")[1].strip() for line in lines if line.startswith("model name")]
+    return (f"Taken on {time.strftime('%Y-%m-%d')} on {len(models)} × {(models or [platform.machine()])[0]}, "
+            f"Linux {platform.release()}, with a load of {os.getloadavg()[0]:.1f} from elsewhere.")
+
+
+def main(*groups):
+    adopt_orphans()
+    taken, figures = machine(), []
+    with tempfile.TemporaryDirectory() as folder:
+        home = starts.home_without_effects(pathlib.Path(folder))
+        for group in groups or GROUPS:
+            print(f"{group} …", file=sys.stderr, flush=True)
+            for take in GROUPS[group]:
+                figures += table.attempted(group, lambda: take(home))
+                end_descendants()
+    text = f"{taken}\n\n{table.markdown(figures)}"
+    print(text)
     if not groups:
-        write(result)
-        print(f"Written to {DOCUMENT.relative_to(ROOT)} and {NUMBERS.relative_to(ROOT)}")
+        DOCUMENT.write_text(table.put_into(DOCUMENT.read_text(), text))
 
 
-main(sys.argv[1:])
+if __name__ == "__main__":
+    main(*sys.argv[1:])

@@ -1,54 +1,107 @@
-"""The one table: for the terminal, and for docs/performance.md."""
+"""Figures, what is aimed at, and the one table of them."""
 
-HEADINGS = ["what", "ours", "peers", "floor", "ratio", "spread", "aim", "met"]
-VERDICTS = {True: "yes", False: "no", None: "?"}
+import dataclasses
+import statistics
+
+OURS, FLOOR = "ours", "floor"
+BEGIN, END = "<!-- the table, written by script/bench -->", "<!-- the end of the table -->"
+
+
+class Unavailable(Exception):
+    """Something cannot be measured here; the text is the reason."""
+
+
+@dataclasses.dataclass
+class Figure:
+    """Values by name, the n-th of each from the n-th round; what is aimed at, a text and what tells of
+    the figure whether it is met; and reasons why a peer has no values."""
+
+    what: str
+    unit: str
+    values: dict
+    aims: list = ()
+    missing: dict = dataclasses.field(default_factory=dict)
+
+    def typical(self, name):
+        return statistics.median(self.values[name])
+
+    def ratios(self):
+        """How many times the floor ours is, round by round."""
+        return [mine / its for mine, its in zip(self.values[OURS], self.values.get(FLOOR, []))]
+
+
+def attempted(what, take):
+    """The figures that take() gives; where it fails, one that says why."""
+    try:
+        return take()
+    except Exception as reason:
+        return [Figure(what, "", {}, (), {OURS: f"{type(reason).__name__}: {reason}"})]
+
+
+def at_most(factor):
+    return f"at most {factor} × floor", lambda figure: statistics.median(figure.ratios()) <= factor
+
+
+def beside(name, factor):
+    return (f"at most {factor} × {name}",
+            lambda figure: figure.typical(OURS) <= factor * figure.typical(name))
+
+
+def at_most_above(amount, unit):
+    return (f"at most {amount} {unit} above the floor",
+            lambda figure: figure.typical(OURS) <= figure.typical(FLOOR) + amount)
+
+
+def under(limit, unit):
+    return f"under {limit} {unit}", lambda figure: figure.typical(OURS) < limit
+
+
+def ahead_of(*names, factor=1):
+    return (f"{factor} × ahead of {', '.join(names)}".removeprefix("1 × "),
+            lambda figure: all(factor * figure.typical(OURS) <= figure.typical(name) for name in names))
 
 
 def number(value):
     """Three digits that matter: 0.0123, 1.23, 12.3, 123, 12,300."""
-    if value is None:
+    return f"{value:,.0f}" if value >= 100 else f"{value:.3g}"
+
+
+def verdict(aim, figure):
+    try:
+        return "yes" if aim[1](figure) else "no"
+    except (KeyError, statistics.StatisticsError):
+        return "?"  # what it is held against is missing
+
+
+def spread(values):
+    """Half of the range in which the middle half of the rounds lies, as a share of the median."""
+    if len(values) < 2:
         return "–"
-    if abs(value) >= 100:
-        return f"{value:,.0f}"
-    return f"{value:.3g}"
+    low, middle, high = statistics.quantiles(values, n=4, method="inclusive")
+    return f"± {100 * (high - low) / 2 / middle:.0f} %"
 
 
-def _quantity(value, unit):
-    return "–" if value is None else f"{number(value)} {unit}".strip()
+def cells(figure):
+    if not figure.values.get(OURS):
+        return [figure.what, "–", figure.missing.get(OURS, "nothing could be measured"), *["–"] * 5]
+    peers = sorted((figure.typical(name), name) for name in figure.values if name not in (OURS, FLOOR))
+    told = [f"{name} {number(value)}" for value, name in peers]
+    told += [f"{name}: {reason}" for name, reason in figure.missing.items()]
+    ratios = figure.ratios()
+    return [figure.what, f"{number(figure.typical(OURS))} {figure.unit}", ", ".join(told) or "–",
+            f"{number(figure.typical(FLOOR))} {figure.unit}" if ratios else "–",
+            f"{statistics.median(ratios):.3g}" if ratios else "–", spread(ratios or figure.values[OURS]),
+            "; ".join(text for text, _ in figure.aims) or "–",
+            ", ".join(verdict(aim, figure) for aim in figure.aims) or "–"]
 
 
-def _peers(row):
-    there = [f"{name} {number(value)}" for name, value in
-             sorted(row["peers"].items(), key=lambda peer: peer[1])]
-    absent = [f"{name}: {reason}" for name, reason in row["missing"].items()]
-    return ", ".join(there + absent) or "–"
+def markdown(figures):
+    rows = [["what", "ours", "peers", "floor", "ratio", "spread", "aim", "met"], ["---"] * 8,
+            *map(cells, figures)]
+    return "\n".join(f"| {' | '.join(row)} |" for row in rows)
 
 
-def cells(row):
-    spread = row["spread"]
-    return [row["what"], _quantity(row["ours"], row["unit"]), _peers(row),
-            _quantity(row["floor"], row["unit"]), number(row["ratio"]),
-            "–" if spread is None else f"± {100 * spread:.0f} %", row["aim"] or "–",
-            ", ".join(VERDICTS[met] for met in row["met"]) or "–"]
-
-
-def as_text(rows):
-    lines = [HEADINGS] + [cells(row) for row in rows]
-    widths = [max(len(line[column]) for line in lines) for column in range(len(HEADINGS))]
-    return "\n".join("  ".join(cell.ljust(width) for cell, width in zip(line, widths)).rstrip()
-                     for line in lines)
-
-
-def as_markdown(rows):
-    lines = [HEADINGS, ["---"] * len(HEADINGS)] + [cells(row) for row in rows]
-    return "\n".join("| " + " | ".join(line) + " |" for line in lines)
-
-
-BEGIN, END = "<!-- the table, written by script/bench -->", "<!-- the end of the table -->"
-
-
-def put_into(document, table):
-    """The document with the table between its two marks."""
+def put_into(document, text):
+    """The document with a text between its two marks."""
     before, rest = document.split(BEGIN)
-    _, after = rest.split(END)
-    return f"{before}{BEGIN}\n\n{table}\n\n{END}{after}"
+    return f"{before}{BEGIN}\n\n{text}\n\n{END}{rest.split(END)[1]}"

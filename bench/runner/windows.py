@@ -1,98 +1,159 @@
-"""Programs with a window, started and driven by window-clock. Times are seconds of the monotonic
-clock."""
+"""Programs with a window, driven and timed on an X display. Times are seconds of the monotonic clock.
+
+Painted means that for a while nothing more was painted; what is as narrow as a caret does not count.
+"""
 
 import contextlib
-import dataclasses
 import os
 import pathlib
+import select
+import signal
 import subprocess
+import time
 
-from figures import Unavailable
-from project import BUILD
-from desktop.launcher import LauncherWindow
+from Xlib import XK, X, display, error
+from Xlib.ext import damage, xtest
+from Xlib.protocol.event import ClientMessage
 
-CLOCK = BUILD / "bench/stage/window-clock"
-BARE_WINDOW = BUILD / "bench/stage/bare-window"
+from desktop.processes import end_descendants
+from table import Unavailable
+
+QUIET = 0.25  # a caret blinks more slowly
+PATIENCE = 30
+CARET_WIDTH = 16  # with what a toolkit paints around it
+BUILD = pathlib.Path(__file__).resolve().parents[2] / "build"
 APPLICATION = BUILD / "VorxLauncher.app"
 PROGRAM = "VorxLauncher"
-
-
-def seconds(nanoseconds):
-    return int(nanoseconds) / 1e9
-
-
-@dataclasses.dataclass
-class Memory:
-    """In MB: what is resident, and that with what is shared divided among those who share it."""
-    resident: float
-    proportional: float
+BARE_WINDOW = BUILD / "bench/bare-window"
 
 
 class Session:
-    """A running program whose window is shown and painted."""
+    """A running program with a window."""
 
-    def __init__(self, clock, greeting):
-        self._clock = clock
-        _, started, self.process, _, mapped, _, painted, self.window = greeting
-        self.started = seconds(started)
-        self.mapped, self.painted = seconds(mapped), seconds(painted)
+    def __init__(self, command, home):
+        self._display = display.Display()
+        self._display.set_error_handler(lambda *_: None)  # a window that has gone meanwhile
+        self._root = self._display.screen().root
+        self._display.damage_query_version()  # without which the server answers nothing
+        self._root.damage_create(damage.DamageReportRawRectangles)
+        self._display.sync()
+        self._paintings = []
+        self._window = None
+        environment = {**os.environ, "HOME": str(home), "LC_ALL": "C.UTF-8", "LANGUAGE": "en"}
+        silence = [(os.POSIX_SPAWN_OPEN, descriptor, os.devnull, os.O_RDWR, 0) for descriptor in range(3)]
+        self.started = time.monotonic()
+        self._process = os.posix_spawnp(str(command[0]), [str(word) for word in command], environment,
+                                        file_actions=silence)
+        self._ended = os.pidfd_open(self._process)
 
-    def ask(self, command):
-        """The words of the answer to a command."""
-        print(command, file=self._clock.stdin, flush=True)
-        return _answer(self._clock)
+    def await_painting(self):
+        """When the window, as soon as it is there, was painted last."""
+        self._await(self._last_painting)
+        return self._last_painting()
+
+    def await_next_painting(self):
+        self._paintings.clear()
+        return self.await_painting()
+
+    def press(self, key):
+        """Presses a key, as X names it, and tells when."""
+        code = self._display.keysym_to_keycode(XK.string_to_keysym(key))
+        self._paintings.clear()
+        pressed = time.monotonic()
+        xtest.fake_input(self._display, X.KeyPress, code)
+        xtest.fake_input(self._display, X.KeyRelease, code)
+        self._display.flush()
+        return pressed
 
     def key(self, name):
         """How long after a key was pressed the last of what it changes was painted."""
-        words = self.ask(f"key {name}")
-        return seconds(words[3]) - seconds(words[1])
+        pressed = self.press(name)
+        return self.await_painting() - pressed
 
-    def click(self, control):
-        """Clicks on a control of the launcher; when the button was let go of."""
-        left, top, width, height = LauncherWindow(self.window).frame(control)
-        return seconds(self.ask(f"click {left + width // 2} {top + height // 2}")[1])
+    def type(self, text):
+        subprocess.run(["xdotool", "type", "--delay", "5", text], check=True)
+        self._await(lambda: True)
 
-    def type_into(self, control, text):
-        """Types a text, and leaves the pointer where no explanation pops up."""
-        window = LauncherWindow(self.window)
-        window.click_on(control)
-        window.press("ctrl+a")
-        window.type(text)
-        subprocess.run(["xdotool", "mousemove", "1", "1"], check=True)
-        window.settled_picture()
-
-    def await_painting(self):
-        return seconds(self.ask("await")[1])
+    def resident_megabytes(self):
+        lines = pathlib.Path(f"/proc/{self._process}/smaps_rollup").read_text().splitlines()
+        return next(int(line.split()[1]) / 1024 for line in lines if line.startswith("Rss:"))
 
     def close(self):
-        """Closes the window; how long the process went on."""
-        words = self.ask("close")
-        return seconds(words[3]) - seconds(words[1])
+        """Closes the window as a window manager does; how long the process went on."""
+        atom = self._display.intern_atom
+        message = ClientMessage(window=self._window, client_type=atom("WM_PROTOCOLS"),
+                                data=(32, [atom("WM_DELETE_WINDOW"), X.CurrentTime, 0, 0, 0]))
+        asked = time.monotonic()
+        self._window.send_event(message)
+        self._display.flush()
+        if not select.select([self._ended], [], [], PATIENCE)[0]:
+            raise Unavailable("it does not end")
+        return time.monotonic() - asked
 
-    def memory(self):
-        lines = pathlib.Path(f"/proc/{self.process}/smaps_rollup").read_text().splitlines()
-        sizes = {line.split(":")[0]: int(line.split()[1]) / 1024 for line in lines[1:]}
-        return Memory(sizes["Rss"], sizes["Pss"])
+    def end(self):
+        with contextlib.suppress(ProcessLookupError):
+            os.kill(self._process, signal.SIGTERM)
+        if not select.select([self._ended], [], [], PATIENCE)[0]:
+            os.kill(self._process, signal.SIGKILL)
+        os.waitpid(self._process, 0)
+        os.close(self._ended)
+        self._display.close()
+        end_descendants()
 
+    def _await(self, condition):
+        """Waits until the condition holds and nothing has been painted for a while."""
+        begun = time.monotonic()
+        while time.monotonic() < begun + PATIENCE:
+            last = max([begun] + [painted for painted, _ in self._paintings[-1:]])
+            left = last + QUIET - time.monotonic()
+            if left <= 0 and condition():
+                return
+            ready, _, _ = select.select([self._display, self._ended], [], [], left if left > 0 else QUIET)
+            self._take_events(time.monotonic())
+            if self._ended in ready:
+                raise Unavailable("it ended")
+        raise Unavailable("it shows no window, or nothing new in it")
 
-def _answer(clock):
-    words = clock.stdout.readline().split()
-    if not words or words[0] == "ended":
-        raise Unavailable("it ended, or showed no window")
-    return words
+    def _take_events(self, now):
+        while self._display.pending_events():
+            event = self._display.next_event()
+            if event.type == self._display.extension_event.DamageNotify:
+                self._paintings.append((now, event.area))
+
+    def _last_painting(self):
+        """When the window was painted last; None before."""
+        self._window = self._window or self._managed_window()
+        if self._window is None:
+            return None
+        with contextlib.suppress(error.BadWindow, error.BadDrawable):
+            size = self._window.get_geometry()
+            place = self._root.translate_coords(self._window, 0, 0)
+            return next((painted for painted, area in reversed(self._paintings)
+                         if area.width > CARET_WIDTH and
+                         place.x < area.x + area.width and area.x < place.x + size.width and
+                         place.y < area.y + area.height and area.y < place.y + size.height), None)
+        return None
+
+    def _managed_window(self):
+        """The first window that is under the window manager's care and can be closed."""
+        windows = self._root.get_full_property(self._display.intern_atom("_NET_CLIENT_LIST"), X.AnyPropertyType)
+        for identifier in windows.value if windows else []:
+            window = self._display.create_resource_object("window", identifier)
+            with contextlib.suppress(error.BadWindow):
+                if (window.get_attributes().map_state == X.IsViewable and
+                        self._display.intern_atom("WM_DELETE_WINDOW") in window.get_wm_protocols()):
+                    return window
+        return None
 
 
 @contextlib.contextmanager
-def session(*command, home, errors=subprocess.DEVNULL, clock=CLOCK):
-    """A program from its start to its end."""
-    if not clock.exists():
-        raise Unavailable("window-clock was not built")
-    environment = {**os.environ, "HOME": str(home), "LC_ALL": "C.UTF-8", "LANGUAGE": "en"}
-    running = subprocess.Popen([clock, *command], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
-                               stderr=errors, text=True, env=environment)
+def session(*command, home):
+    """A program from its start to its end: the session, and when its window was painted."""
     try:
-        yield Session(running, _answer(running))
+        running = Session(command, home)
+    except FileNotFoundError as missing:
+        raise Unavailable("not installed") from missing
+    try:
+        yield running, running.await_painting()
     finally:
-        running.stdin.close()
-        running.wait()
-        running.stdout.close()
+        running.end()
