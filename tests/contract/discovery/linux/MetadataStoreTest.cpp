@@ -107,11 +107,18 @@ class MetadataStoreTest : public testing::Test {
                               .output = errors_.writer()});
     if (child == nullptr) return false;
     child->waitUntilExit();
-    return downloadAddress(file_) == address;
+    return patientAnswer(file_) == address;
   }
 
-  std::optional<std::string> location() const {
-    return extractWhereAreYouFrom(Url::ofFile(file_), *makeOriginAttribute());
+  /// A busy machine may take longer than a person would wait.
+  static std::optional<std::string> patientAnswer(const std::string& file) {
+    return downloadAddress(file, {.limit = std::chrono::minutes(1)});
+  }
+
+  void expectLocation(const std::string& location) const {
+    EXPECT_TRUE(eventually([&] {
+      return extractWhereAreYouFrom(Url::ofFile(file_), *makeOriginAttribute()) == location;
+    })) << location;
   }
 
   const DesktopSession session_;
@@ -122,9 +129,9 @@ class MetadataStoreTest : public testing::Test {
 
 TEST_F(MetadataStoreTest, AnAddressInTheStoreGivesTheLocation) {
   ASSERT_TRUE(record("https://h:8443/D/Launcher.dmg?a=1&b=<2>"));
-  EXPECT_EQ(location(), "https://h:8443/D/?a=1&b=%3C2%3E");
-  EXPECT_EQ(downloadAddress(makeFile(folder_.file("other"))), std::nullopt);
-  EXPECT_EQ(downloadAddress(folder_.file("missing")), std::nullopt);
+  expectLocation("https://h:8443/D/?a=1&b=%3C2%3E");
+  EXPECT_EQ(patientAnswer(makeFile(folder_.file("other"))), std::nullopt);
+  EXPECT_EQ(patientAnswer(folder_.file("missing")), std::nullopt);
 }
 
 TEST_F(MetadataStoreTest, WhatIsRecordedWithTheFileCountsFirst) {
@@ -132,10 +139,10 @@ TEST_F(MetadataStoreTest, WhatIsRecordedWithTheFileCountsFirst) {
   if (!setAttribute(file_, "user.xdg.origin.url", "https://file/D/F")) {
     GTEST_SKIP() << "the file system of " << folder_.path() << " keeps no attributes";
   }
-  EXPECT_EQ(location(), "https://file/D/");
+  expectLocation("https://file/D/");
   ASSERT_TRUE(setAttribute(file_, kWhereFroms,
                            "<plist><array><string>https://copy/D/F</string></array></plist>"));
-  EXPECT_EQ(location(), "https://copy/D/");
+  expectLocation("https://copy/D/");
 }
 
 }  // namespace
