@@ -7,7 +7,7 @@ from desktop.waiting import wait_until
 
 
 class AnnouncementTest(LauncherTest):
-    def test_the_status_line_is_read_whenever_it_changes(self):
+    def test_the_status_line_is_read_when_it_changes_and_only_then(self):
         self.start_with_slow_resolver()
         with Announcements() as announcements:
             def wait_for(text):
@@ -21,3 +21,4 @@ class AnnouncementTest(LauncherTest):
             wait_for(RUNNING_READY)
             self.enter_location("server")
             wait_for(NO_URL)
+            self.assertEqual(announcements.heard(), [READY, LOOKING_UP, RUNNING_READY, NO_URL])

@@ -39,9 +39,12 @@ TEST(TranslationsTest, EveryTableHasEveryKey) {
   }
 }
 
-TEST(TranslationsTest, AKeyThatNoTableHasIsShownItself) {
-  const auto translations = makeTranslations();
-  EXPECT_EQ((*translations)({"no such %@ \u00e9", "comment"}), "no such %@ \u00e9");
+TEST(TranslationsTest, TextsAreInTheDesktopsLanguage) {
+  EXPECT_EQ((*makeTranslations())(texts::launch), "Starten");
+}
+
+TEST(TranslationsTest, AKeyThatTheTableLacksIsShownItself) {
+  EXPECT_EQ((*makeTranslations())({"no such %@ \u00e9", "comment"}), "no such %@ \u00e9");
 }
 
 }  // namespace
