@@ -11,11 +11,11 @@ class ApplicationBundle {
  public:
   virtual ~ApplicationBundle() = default;
 
-  /// The bundle's own path without a trailing separator. On macOS it is the system's own text; on
-  /// Linux, where the program may be started through a symbolic link, links are resolved.
+  /// The bundle's path without a trailing separator. macOS: as the system gives it. Linux: with
+  /// symbolic links resolved, since the program may be started through one.
   virtual std::string path() const = 0;
 
-  /// The path of the resource folder without a trailing separator, or absent.
+  /// The resource folder's path without a trailing separator, or absent.
   virtual std::optional<std::string> resourcePath() const = 0;
 };
 

@@ -3,8 +3,8 @@
 namespace launcher {
 namespace {
 
-/// What may follow a lead byte: the number of further bytes, and the values of the first of them.
-/// The narrower ranges keep out overlong forms, surrogates and what lies above U+10FFFF.
+/// What may follow a lead byte: the number of further bytes, and the range of the first of them.
+/// The narrower ranges exclude overlong forms, surrogates and values above U+10FFFF.
 struct Lead {
   std::size_t following = 0;
   unsigned char lowest = 0x80;

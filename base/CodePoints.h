@@ -6,8 +6,8 @@
 
 namespace launcher {
 
-/// A code point and the number of bytes or units that it was read from. An ill-formed sequence has
-/// no point; it is as long as the part of it that could have begun a well-formed one.
+/// A code point and its length in bytes or units. An ill-formed sequence has no point; its length
+/// is that of the part that could have begun a well-formed one.
 struct CodePoint {
   std::optional<char32_t> value;
   std::size_t length = 1;

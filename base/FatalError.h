@@ -4,7 +4,7 @@
 
 namespace launcher {
 
-/// Ends the program for a state that cannot be.
+/// Ends the program when it meets an impossible state.
 ///
 /// Writes one line to the standard error stream and aborts. Any thread.
 ///

@@ -5,10 +5,10 @@
 #include <string>
 #include <string_view>
 
-/// Escapes of the form "%2F", and the sets of bytes that need none. No state; any thread.
+/// Escapes such as "%2F", and sets of bytes that need no escape. No state; any thread.
 namespace launcher {
 
-/// A set of bytes, asked in constant time.
+/// A set of bytes with a look-up in constant time.
 class ByteSet {
  public:
   constexpr ByteSet(std::initializer_list<std::string_view> groups) {
@@ -35,12 +35,12 @@ bool beginsWithEscape(std::string_view text);
 ///     escaped("a b", {"ab"})   -> "a%20b"
 std::string escaped(std::string_view text, const ByteSet& kept);
 
-/// The same, but escapes that the text holds already are kept.
+/// The same, but keeps the escapes that the text already has.
 ///
 ///     escapedKeepingEscapes("a b%20%", {"ab"})   -> "a%20b%20%25"
 std::string escapedKeepingEscapes(std::string_view text, const ByteSet& kept);
 
-/// The bytes that a text stands for. A "%" that begins no escape stands for itself.
+/// The text with its escapes decoded. A "%" that begins no escape stays.
 ///
 ///     unescaped("a%20b")   -> "a b"
 std::string unescaped(std::string_view text);

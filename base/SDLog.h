@@ -5,7 +5,7 @@
 namespace launcher {
 
 /// The program's one diagnostic entry point. Takes a message of any type, the source file's name
-/// and the operation's name, and writes nothing: what is shipped stays silent. Any thread.
+/// and the operation's name. Writes nothing: the shipped program stays silent. Any thread.
 ///
 ///     SDLog(error, "ViewController", "extractSourceFromDMG()");
 template <class Message>

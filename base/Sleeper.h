@@ -4,12 +4,12 @@
 
 namespace launcher {
 
-/// Lets the calling thread rest.
+/// Puts the calling thread to sleep.
 class Sleeper {
  public:
   virtual ~Sleeper() = default;
 
-  /// Blocks the calling thread for the given number of seconds, also across signals.
+  /// Blocks for the given number of seconds; signals do not shorten it.
   virtual void sleep(double seconds) = 0;
 };
 

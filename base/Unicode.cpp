@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::string_view kCarriageReturnLineFeed = "\r\n";
 
-/// In ASCII the one cluster of several characters is the line end.
+/// In ASCII only "\r\n" is a cluster of several characters.
 std::size_t asciiCharacterCount(std::string_view text) {
   std::size_t count = text.size();
   for (std::size_t at = text.find(kCarriageReturnLineFeed); at != std::string_view::npos;

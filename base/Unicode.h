@@ -9,10 +9,11 @@
 namespace launcher {
 
 /// The number of user-perceived characters: extended grapheme clusters on Linux, composed character
-/// sequences on macOS. Those differ for controls with combining marks, prepended marks such as
-/// U+0600, Thai and Lao SARA AM, and consonants that a virama joins. As a location is searched as
-/// far as it has characters, one with such a letter may be valid on one system alone: the link in
-/// "https://h/\u0e2a\u0e33" is as long as the text on macOS, and reaches beyond the range on Linux.
+/// sequences on macOS. They differ for controls with combining marks, prepended marks such as
+/// U+0600, Thai and Lao SARA AM, and consonants that a virama joins. So a location with such a
+/// letter may be valid on one system only, since this count limits the range that is searched for a
+/// link: in "https://h/\u0e2a\u0e33" the link is as long as the text on macOS and exceeds the range
+/// on Linux.
 ///
 ///     characterCount("abc")         -> 3
 ///     characterCount("e\u0301")     -> 1     a letter and its combining accent
@@ -25,32 +26,31 @@ std::string canonicallyDecomposed(std::string_view text);
 /// The text in UTF-16, in the machine's byte order.
 std::u16string utf16(std::string_view text);
 
-/// The text of UTF-16 units; a lone surrogate becomes U+FFFD.
+/// The text in UTF-8; a lone surrogate becomes U+FFFD.
 std::string utf8(std::u16string_view units);
 
-/// The text of one code point, which is no surrogate and at most U+10FFFF.
+/// One code point in UTF-8. It must be no surrogate and at most U+10FFFF.
 std::string utf8(char32_t point);
 
-/// The bytes as well-formed UTF-8, each ill-formed sequence replaced by U+FFFD.
+/// The bytes with each ill-formed sequence replaced by U+FFFD.
 std::string repairedUtf8(std::string_view bytes);
 
 /// Whether all bytes are below 0x80.
 bool isAscii(std::string_view text);
 
-/// The text with its ASCII capitals as small letters; other characters stay.
+/// The text with ASCII capitals in lower case; other characters stay.
 std::string asciiLowerCase(std::string_view text);
 
 /// Whether the bytes are well-formed UTF-8.
 bool isUtf8(std::string_view bytes);
 
-/// Whether two texts are equal: byte by byte where both are ASCII, else canonically equivalent.
-/// Case counts.
+/// Whether two texts are canonically equivalent. Case counts.
 ///
 ///     canonicallyEqual("\u00e9", "e\u0301")   -> true
 bool canonicallyEqual(std::string_view a, std::string_view b);
 
-/// Whether `text` begins with `prefix`: byte by byte where both are ASCII, else in their canonical
-/// decompositions. Case counts; the empty prefix always passes.
+/// Whether the canonical decomposition of `text` begins with that of `prefix`. Case counts; the
+/// empty prefix always passes.
 bool hasCanonicalPrefix(std::string_view text, std::string_view prefix);
 
 }  // namespace launcher

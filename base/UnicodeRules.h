@@ -4,11 +4,11 @@
 #include <string>
 #include <string_view>
 
-/// What the platform knows about Unicode. Asked by Unicode.cpp, for texts that are not plain ASCII;
-/// everyone else uses Unicode.h. Units are UTF-16 without lone surrogates. No state; any thread.
+/// The platform's knowledge of Unicode. Only Unicode.cpp uses it, for texts beyond ASCII;
+/// everything else uses Unicode.h. Units are UTF-16 without lone surrogates. No state; any thread.
 namespace launcher {
 
-/// The number of extended grapheme clusters.
+/// The number of user-perceived characters, counted as `characterCount` says.
 std::size_t graphemeClusterCount(std::u16string_view units);
 
 /// The canonical decomposition (NFD).

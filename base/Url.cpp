@@ -5,7 +5,8 @@
 namespace launcher {
 namespace {
 
-/// A web address with a host. Browsers leave characters that no URL holds in what follows one.
+/// Whether it is a web address with a host. After the host, browsers leave characters that no URL
+/// holds.
 bool isWebAddress(std::string_view text) {
   if (!text.starts_with("http://") && !text.starts_with("https://")) return false;
   return !hostIn(*splitUrl(text).authority).empty();

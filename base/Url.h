@@ -9,38 +9,38 @@ namespace launcher {
 /// A URL, kept as its absolute text. A value; any thread.
 class Url {
  public:
-  /// The URL that a text spells just as it stands, also a relative one. Absent for the empty text,
-  /// a character inside that no URL holds (a blank, a control or non-ASCII character, one of
-  /// <>"\^`{|}), a bad escape, a second "#", brackets but around an IPv6 address, a port that is no
+  /// Reads a URL, also a relative one, and changes nothing in it. Absent for the empty text, a
+  /// character that no URL holds (a blank, a control or non-ASCII character, one of <>"\^`{|}), a
+  /// bad escape, a second "#", brackets that do not enclose an IPv6 address, a port that is no
   /// number.
   static std::optional<Url> parse(std::string_view text);
 
-  /// The same, but the characters that no URL holds are escaped first in the path, query and
-  /// fragment of an "http://" or "https://" text with a host, as browsers write them. What is wrong
-  /// elsewhere stays wrong, a host that is not ASCII too.
+  /// The same, but first escapes the characters that no URL holds, as browsers do: in the path,
+  /// query and fragment of an "http://" or "https://" text with a host. Errors elsewhere stay
+  /// errors, such as a host that is not ASCII.
   ///
   ///     https://h/a b?c=[d]   -> https://h/a%20b?c=%5Bd%5D
   ///     a b                   -> absent
   static std::optional<Url> repaired(std::string_view text);
 
-  /// The file URL of a path that is not a folder; a relative path is taken from the working
-  /// folder. Bytes that a URL cannot hold are escaped.
+  /// The file URL of a path that is not a folder. A relative path starts at the working folder.
+  /// Escapes the bytes that a URL cannot hold.
   ///
   ///     Url::ofFile("/a b/c.dmg")   -> file:///a%20b/c.dmg
   static Url ofFile(std::string_view path);
 
-  /// The scheme without its colon, in the case in which it was given; absent where there is none.
+  /// The scheme without its colon, in its given case; absent if there is none.
   std::optional<std::string> scheme() const;
 
-  /// The host name without port or credentials, escapes decoded; absent where there is none, empty
-  /// where a port or credentials stand alone. An IPv6 host comes without its brackets.
+  /// The host name with escapes decoded, without port, credentials or an IPv6 address's brackets.
+  /// Absent if there is none; empty if there are only a port or credentials.
   std::optional<std::string> host() const;
 
-  /// The path's bytes with escapes decoded, without a trailing separator (the root stays "/").
+  /// The path with escapes decoded, without a trailing separator (the root stays "/").
   std::string filePath() const;
 
-  /// The URL with the last component of its path removed; query, fragment, port and credentials
-  /// stay, and "%2F" is no separator. Systems differ for paths with "//", "." or "..".
+  /// The URL without the last component of its path. Query, fragment, port and credentials stay;
+  /// "%2F" is no separator. Systems differ for paths with "//", "." or "..".
   ///
   ///     https://h/D/F     -> https://h/D/
   ///     https://h/dir/    -> https://h/

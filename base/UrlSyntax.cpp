@@ -12,7 +12,8 @@ constexpr ByteSet kZoneBytes{kLetters, kDigits, kUnreservedMarks};
 constexpr ByteSet kPortBytes{kDigits};
 constexpr std::string_view kZoneMark = "%25";
 
-/// What stands before and behind the first of some marks; nothing behind where there is none.
+/// Splits a text at the first of the given marks. The second part begins with it, or is empty if
+/// there is none.
 std::pair<std::string_view, std::string_view> splitAt(std::string_view text,
                                                       std::string_view marks) {
   const std::string_view before = text.substr(0, text.find_first_of(marks));
@@ -41,7 +42,7 @@ bool isScheme(std::string_view text) {
          consistsOf(text, kSchemeBytes);
 }
 
-/// An IPv6 address, and the zone that it may name: "fe80::1%25eth0".
+/// Whether it is an IPv6 address, with or without a zone: "fe80::1%25eth0".
 bool isBracketedAddress(std::string_view text) {
   const std::size_t mark = text.find(kZoneMark);
   const std::string_view address = text.substr(0, mark);

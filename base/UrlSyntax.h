@@ -6,21 +6,21 @@
 
 #include "base/PercentEncoding.h"
 
-/// How a URL is written (RFC 3986): the bytes that its parts may hold, and the parts of a text. No
-/// state; any thread.
+/// The syntax of URLs (RFC 3986): the parts of a URL and the bytes that they may hold. No state;
+/// any thread.
 namespace launcher {
 
 inline constexpr std::string_view kUnreservedMarks = "-._~";
 inline constexpr std::string_view kSubDelimiters = "!$&'()*+,;=";
 
-/// Beside these bytes a part may hold escapes, a scheme excepted.
+/// Every part but the scheme may also hold escapes.
 inline constexpr ByteSet kSchemeBytes{kLetters, kDigits, "+-."};
 inline constexpr ByteSet kUserInfoBytes{kLetters, kDigits, kUnreservedMarks, kSubDelimiters, ":"};
 inline constexpr ByteSet kHostNameBytes{kLetters, kDigits, kUnreservedMarks, kSubDelimiters};
 inline constexpr ByteSet kPathBytes{kLetters, kDigits, kUnreservedMarks, kSubDelimiters, ":@/"};
 inline constexpr ByteSet kQueryBytes{kLetters, kDigits, kUnreservedMarks, kSubDelimiters, ":@/?"};
 
-/// The parts of a text, as far as it has them, without the marks between them.
+/// The parts that a text has, without the marks between them.
 struct UrlParts {
   std::optional<std::string_view> scheme;
   std::optional<std::string_view> authority;  ///< credentials, host and port
@@ -28,21 +28,21 @@ struct UrlParts {
   std::string_view tail;  ///< query and fragment, with their marks
 };
 
-/// Splits a text, be it a URL or not.
+/// Splits any text, even one that is no URL.
 ///
 ///     "https://u@h:80/a?b#c"   -> scheme "https", authority "u@h:80", path "/a", tail "?b#c"
 ///     "mailto:a@b"             -> scheme "mailto", path "a@b"
 UrlParts splitUrl(std::string_view text);
 
-/// The host that an authority names, escapes and all, an IPv6 address without its brackets.
+/// The host in an authority, with its escapes and without the brackets of an IPv6 address.
 ///
 ///     "u:p@[::1]:80"   -> "::1"
 std::string_view hostIn(std::string_view authority);
 
-/// Whether a text is a URL, also a relative one, just as it stands.
+/// Whether a text is a URL, also a relative one.
 bool isUrl(std::string_view text);
 
-/// A path, a query and a fragment with every byte escaped that none of them holds. Escapes stay.
+/// Escapes the bytes that a path, query or fragment cannot hold. Keeps escapes.
 ///
 ///     "/a b%20c?d=[e]#f#g"   -> "/a%20b%20c?d=%5Be%5D#f%23g"
 std::string escapedTail(std::string_view text);

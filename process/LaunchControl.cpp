@@ -20,7 +20,7 @@ void LaunchControl::launchProc(const std::string& location, const std::string& i
   if (!resources) return;
 
   if (viewerRuns()) {
-    // A viewer that this instance did not start is not ours to stop.
+    // Stop only a viewer that this instance started.
     if (const auto viewer = runningProcess()) viewer->terminate();
     waitForOldViewer();
   }

@@ -15,11 +15,11 @@ namespace launcher {
 
 /// Starts the viewer and stops the one that it started before.
 ///
-/// Every member may be called on any thread; each is guarded against tearing, and no more: a launch
-/// that is under way at quit goes on.
+/// Any thread. Each call is thread-safe by itself; sequences of calls are not: a launch that is
+/// under way at quit goes on.
 class LaunchControl {
  public:
-  /// What the launch asks of the world. All of it must outlive the controller.
+  /// What a launch needs from the platform. All of it must outlive the controller.
   struct Services {
     const ApplicationBundle& bundle;
     const ProcessTable& processes;
@@ -29,37 +29,37 @@ class LaunchControl {
 
   explicit LaunchControl(Services services);
 
-  /// The one instance that the application uses. Made on first use from the platform's services
-  /// and never destroyed, since background work may still use it while the process ends.
+  /// The application's one instance. The first use makes it from the platform's services. It is
+  /// never destroyed, since background work may still use it while the process ends.
   static LaunchControl& sharedInstance();
 
   /// The viewer's executable name, "vexlink".
   static constexpr std::string_view targetProc = "vexlink";
 
-  /// Starts RESOURCES/bin/vexlink with "-l" `location`, "-i" `ip`, "-r" RESOURCES; both texts are
-  /// passed on as they come, empty ones too.
+  /// Starts RESOURCES/bin/vexlink with "-l" `location`, "-i" `ip`, "-r" RESOURCES. Passes both
+  /// texts on unchanged, even empty ones.
   ///
-  /// Where a viewer already runs, the one that this instance started (if any) is asked to stop, and
-  /// up to five waits of one second go by until the process table has lost it; then the new one is
-  /// started, whether or not the old one has gone. Blocks meanwhile.
+  /// If a viewer already runs, first asks the viewer that this instance started (if any) to stop.
+  /// Then waits up to five times for one second, until the process table shows no viewer, and
+  /// starts the new one in either case. Blocks meanwhile.
   ///
-  /// Without a resource folder nothing happens. Where the viewer cannot be started, the earlier
-  /// handle stays.
+  /// Does nothing without a resource folder. Keeps the earlier handle if the viewer cannot be
+  /// started.
   void launchProc(const std::string& location, const std::string& ip);
 
   /// Asks the viewer that this instance started last to stop, without waiting, and forgets it.
   void terminateProc();
 
-  /// The viewer's identifier as the window saw it when it loaded; `noProcess` until then. A launch
-  /// does not change it.
+  /// The viewer's identifier when the window loaded; `noProcess` until then. A launch does not
+  /// change it.
   ProcessId runningAppPID() const { return runningAppPID_; }
   void setRunningAppPID(ProcessId pid) { runningAppPID_ = pid; }
 
-  /// The viewer that this instance started last; null where there is none.
+  /// The viewer that this instance started last, or null.
   std::shared_ptr<RunningProcess> runningProcess() const;
 
  private:
-  /// Returns the handle that was held before, so that it is dropped outside the lock.
+  /// Returns the previous handle, so that the caller drops it outside the lock.
   std::shared_ptr<RunningProcess> replaceRunningProcess(std::shared_ptr<RunningProcess> process);
   void waitForOldViewer();
   bool viewerRuns() const;

@@ -9,7 +9,7 @@
 namespace launcher {
 namespace {
 
-/// Sets `length` to the size of the table. The error, 0 where there is none.
+/// Sets `length` to the size of the table. Returns the error, or 0.
 int probeError(const ProcessTable& table, std::size_t& length) {
   const int result = table.probeSize(length);
   return result == -1 ? errno : result;
@@ -43,8 +43,8 @@ std::optional<ProcessHelpers::Snapshot> ProcessHelpers::GetBSDProcessList(
     const std::size_t count = length / table.recordSize();
     list.emplace(count * table.recordSize());
 
-    // A table that has outgrown the array comes as -1 and ENOMEM and is searched as far as it goes;
-    // only ENOMEM as the result itself asks for another pass.
+    // A table that has outgrown the array gives -1 and ENOMEM: search the part that fits. Only a
+    // result of ENOMEM itself asks for another pass.
     switch (table.fetch(list->data(), length)) {
       case 0:
         return list;

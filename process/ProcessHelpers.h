@@ -9,13 +9,13 @@
 
 namespace launcher {
 
-/// Searches the process table by command name. No state: every search takes a fresh snapshot.
+/// Searches the process table by command name. Keeps no state: every search takes a new snapshot.
 class ProcessHelpers {
  public:
-  /// The identifier of the first process whose command name is a prefix of `name` (mind the
-  /// direction: it is the searched name that begins with the command name), or `noProcess`, also
-  /// where the table cannot be read. Texts are compared under canonical equivalence; case counts;
-  /// empty command names and processes that have ended never match. Any thread.
+  /// The identifier of the first process whose command name is a prefix of `name`, or `noProcess`.
+  /// Mind the direction: the searched name begins with the command name. The prefix matches under
+  /// canonical equivalence; case counts. Empty command names and ended processes never match.
+  /// `noProcess` too if the table cannot be read. Any thread.
   ///
   ///     processes 7 "vex", 8 "vexlink"   getRunningProcess("vexlink", table)   -> 7
   ///     process   9 "vexlinks"           getRunningProcess("vexlink", table)   -> noProcess
@@ -24,8 +24,8 @@ class ProcessHelpers {
  private:
   using Snapshot = std::vector<std::byte>;
 
-  /// All records of the table, those that it left unfilled zero; absent where its size is unknown
-  /// or there is no memory for it.
+  /// All records of the table; zeros where it filled none. Absent if its size is unknown or there
+  /// is no memory for it.
   static std::optional<Snapshot> GetBSDProcessList(const ProcessTable& table);
 };
 

@@ -9,22 +9,22 @@
 
 namespace launcher {
 
-/// A process identifier; `noProcess` says that no such process runs.
+/// A process identifier; `noProcess` means that no such process runs.
 using ProcessId = std::int32_t;
 inline constexpr ProcessId noProcess = -1;
 
-/// The two fields that are read of a process record.
+/// The two fields of a process record that we read.
 struct ProcessRecord {
   ProcessId pid;                 ///< `kp_proc.p_pid`
   std::array<char, 17> command;  ///< `kp_proc.p_comm`, zero-padded: the executable's name, cut
 
-  /// The command up to its first NUL: bytes that need not be well-formed UTF-8.
+  /// The command up to its first NUL. It need not be well-formed UTF-8.
   std::string_view name() const {
     return {command.data(), strnlen(command.data(), command.size())};
   }
 };
 
-/// The machine's process table, asked in the manner of the BSD `sysctl`. No state; any thread.
+/// The machine's process table, read as with the BSD `sysctl`. No state; any thread.
 class ProcessTable {
  public:
   virtual ~ProcessTable() = default;
@@ -32,24 +32,24 @@ class ProcessTable {
   /// The size of one record in bytes.
   virtual std::size_t recordSize() const = 0;
 
-  /// Sets `length` to the number of bytes that the table needs now, or some more.
+  /// Sets `length` to the number of bytes that the table needs now, or slightly more.
   ///
-  /// Returns 0, or -1 with `errno` set. What another value means is the caller's to judge.
+  /// Returns 0, or -1 with `errno` set. The caller handles any other value.
   virtual int probeSize(std::size_t& length) const = 0;
 
-  /// Fills a buffer of `length` bytes with whole records, sets `length` to the number of bytes
-  /// filled, and leaves the rest untouched. A buffer that has become too small is filled as far as
-  /// it goes, and the call fails with `ENOMEM`.
+  /// Fills a buffer of `length` bytes with whole records and sets `length` to the number of bytes
+  /// filled. Leaves the rest untouched. If the table has outgrown the buffer, fills it as far as
+  /// possible and fails with `ENOMEM`.
   ///
-  /// Returns as `probeSize` does. What `length` is after a failure differs between systems: some
-  /// say how much was filled, others 0. The records that were filled count all the same.
+  /// Returns as `probeSize` does. After a failure `length` differs between systems: some set it to
+  /// the bytes filled, others to 0. The filled records are valid either way.
   virtual int fetch(std::byte* buffer, std::size_t& length) const = 0;
 
   /// Reads one record of `recordSize()` bytes. A zeroed record has the empty name.
   virtual ProcessRecord read(const std::byte* record) const = 0;
 
-  /// Whether a process that the table lists has ended and only waits for its parent to notice.
-  /// A platform that counts such a process as running until then says no.
+  /// Whether a listed process has ended and only waits to be reaped by its parent. False on a
+  /// platform that counts such a process as running until then.
   virtual bool hasEnded(ProcessId /*pid*/) const { return false; }
 };
 

@@ -6,12 +6,12 @@
 
 namespace launcher {
 
-/// A program that was started. Any thread.
+/// A started program. Any thread.
 class RunningProcess {
  public:
   virtual ~RunningProcess() = default;
 
-  /// Asks the program to stop (SIGTERM) and does not wait. Nothing happens once it has ended.
+  /// Asks the program to stop (SIGTERM) without waiting. Does nothing once it has ended.
   virtual void terminate() = 0;
 };
 
@@ -20,8 +20,8 @@ class ProgramStarter {
  public:
   virtual ~ProgramStarter() = default;
 
-  /// Starts the executable at `path` with exactly these arguments (its own name excluded), without
-  /// a shell. Null where it cannot be started. Any thread.
+  /// Starts the executable at `path` with exactly these arguments (without its own name) and no
+  /// shell. Null if it cannot be started. Any thread.
   virtual std::shared_ptr<RunningProcess> start(const std::string& path,
                                                 const std::vector<std::string>& arguments) = 0;
 };

@@ -8,7 +8,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The folder that holds the program. The kernel tells its place with all links resolved.
+/// The program's folder. The kernel gives its path with all links resolved.
 fs::path programFolder() {
   std::error_code failed;
   return fs::read_symlink("/proc/self/exe", failed).parent_path();

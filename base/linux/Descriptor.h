@@ -10,7 +10,7 @@
 
 namespace launcher {
 
-/// A file descriptor that closes itself and leaves `errno` alone. -1 stands for none.
+/// A file descriptor that closes itself and preserves `errno`. -1 means none.
 class Descriptor {
  public:
   explicit Descriptor(int number) : number_(number) {}
@@ -31,18 +31,18 @@ class Descriptor {
   int number_;
 };
 
-/// What a system call gave. Throws `std::system_error` where it failed.
+/// Owns the descriptor that a system call returned. Throws `std::system_error` if the call failed.
 inline Descriptor opened(int number) {
   if (number == -1) throw std::system_error(errno, std::generic_category());
   return Descriptor(number);
 }
 
-/// The ends of a pipe; no other program inherits them.
+/// The two ends of a pipe, which no child inherits.
 struct PipeEnds {
   Descriptor readEnd;
   Descriptor writeEnd;
 
-  /// Throws `std::system_error` where no descriptors are left.
+  /// Throws `std::system_error` if no descriptors are left.
   static PipeEnds make() {
     std::array<int, 2> ends{-1, -1};
     if (pipe2(ends.data(), O_CLOEXEC) == -1) {

@@ -21,7 +21,7 @@ void throwIfFailed(int error) {
   if (error != 0) throw std::system_error(error, std::generic_category());
 }
 
-/// Which descriptors the child gets.
+/// The descriptors that the child gets.
 class FileActions {
  public:
   explicit FileActions(int output) {
@@ -46,7 +46,7 @@ class FileActions {
   posix_spawn_file_actions_t actions_{};
 };
 
-/// No signal blocked, none ignored.
+/// Lets the child start with no signal blocked and none ignored.
 class SignalAttributes {
  public:
   SignalAttributes() {
@@ -69,7 +69,7 @@ class SignalAttributes {
   posix_spawnattr_t attributes_{};
 };
 
-/// Everything that a start needs, allocated beforehand.
+/// Everything that starting a program needs, allocated beforehand.
 class Launch {
  public:
   explicit Launch(SpawnOptions& options) : path_(options.path), actions_(options.output) {
@@ -103,7 +103,7 @@ class Child : public SpawnedChild {
     changed_.wait(lock, [this] { return state_ == State::ended; });
   }
 
-  /// Whether the child was started; either way the reaper goes on.
+  /// Starts the child and wakes the reaper. False if the start failed.
   bool start(const Launch& launch) noexcept {
     const std::lock_guard lock(mutex_);
     state_ = launch.run(pid_) ? State::running : State::failed;
@@ -111,7 +111,7 @@ class Child : public SpawnedChild {
     return state_ == State::running;
   }
 
-  /// The reaper's work. Whether there was a child, which then has ended.
+  /// The reaper's work. Returns after the child has ended; false if it was never started.
   bool reap() noexcept {
     if (!awaitStart()) return false;
     awaitEnd();
@@ -131,9 +131,9 @@ class Child : public SpawnedChild {
     return state_ == State::running;
   }
 
-  /// Leaves the child to be reaped under the lock: until then its identifier is not given to
-  /// another process, so `terminate` cannot hit one. Any failure but an interruption means that the
-  /// child is gone already.
+  /// Waits without reaping, so that the caller reaps under the lock: the kernel reuses the
+  /// identifier only after that, and `terminate` cannot hit another process. Any failure but an
+  /// interruption means that the child is gone already.
   void awaitEnd() const noexcept {
     siginfo_t info;
     while (waitid(P_PID, static_cast<id_t>(pid_), &info, WEXITED | WNOWAIT) == -1 &&
@@ -153,7 +153,8 @@ std::shared_ptr<SpawnedChild> spawn(SpawnOptions options) try {
   const auto child = std::make_shared<Child>();
   const Launch launch(options);
 
-  // Whatever may fail comes before the start, the thread too: a child is never left without reaper.
+  // Allocate everything, including the reaper thread, before starting the child, so that no child
+  // is left unreaped.
   std::thread reaper([child, onExit = std::move(options.onExit)] {
     if (child->reap() && onExit) onExit();
   });

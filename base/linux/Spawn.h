@@ -9,13 +9,13 @@ namespace launcher {
 
 /// A child process of this program.
 ///
-/// It is reaped as soon as it has ended, and is never signalled afterwards. Dropping the handle
-/// leaves the child running and still has it reaped. Any thread.
+/// It is reaped as soon as it ends, and is never signalled afterwards. A child whose handle is
+/// dropped runs on and is still reaped. Any thread.
 class SpawnedChild {
  public:
   virtual ~SpawnedChild() = default;
 
-  /// Asks the child to stop (SIGTERM). Nothing happens once it has ended.
+  /// Asks the child to stop (SIGTERM). Does nothing once it has ended.
   virtual void terminate() = 0;
 
   /// Blocks until the child has ended and been reaped.
@@ -30,13 +30,13 @@ struct SpawnOptions {
                                       ///< must not throw
 };
 
-/// Starts a program. It inherits the environment and, of the descriptors, the standard three; no
-/// signal is blocked there, none ignored. Any thread.
+/// Starts a program. It inherits the environment and the three standard descriptors only; it starts
+/// with no signal blocked and none ignored. Any thread.
 ///
 ///     spawn({.path = "/bin/sleep", .arguments = {"5"}})->waitUntilExit();
 ///
-/// Null where the program cannot be started (missing, not executable, no process, thread or memory
-/// left); then nothing runs and `onExit` is never called.
+/// Null if the program cannot be started (missing, not executable, no process, thread or memory
+/// left). Then nothing runs and `onExit` is never called.
 std::shared_ptr<SpawnedChild> spawn(SpawnOptions options);
 
 }  // namespace launcher

@@ -8,7 +8,7 @@
 #include <limits>
 #include <memory>
 
-// The failures below mean that ICU has no data; the text then stands as it is.
+// ICU fails below only if it has no data. The text then stays as it is.
 namespace launcher {
 namespace {
 

@@ -9,16 +9,16 @@
 namespace launcher {
 namespace {
 
-/// As the platform's file URLs have them: a semicolon is escaped.
+/// A semicolon is escaped, as in the desktop's own file URLs.
 constexpr ByteSet kFilePathBytes{kLetters, kDigits, "-._~!$&'()*+,=:@/"};
 
-/// Without the separators at its end; a path of separators alone keeps one.
+/// The path without trailing separators. A path of separators only keeps one.
 std::string_view withoutTrailingSeparators(std::string_view path) {
   const std::size_t last = path.find_last_not_of('/');
   return path.substr(0, last == std::string_view::npos ? 1 : last + 1);
 }
 
-/// Of a path that ends in "..", which is no component to remove, and of the root all stays.
+/// The root, and a path that ends in "..", stay whole: they have no component to remove.
 std::string pathWithoutLastComponent(std::string_view path) {
   const std::string_view trimmed = withoutTrailingSeparators(path);
   const std::size_t begin = trimmed.rfind('/') + 1;
@@ -63,7 +63,7 @@ std::string Url::filePath() const {
   return unescaped(withoutTrailingSeparators(splitUrl(text_).path));
 }
 
-/// A relative path needs a first component: "./" for one that has lost its only one.
+/// A relative path that loses its only component becomes "./", since it must not be empty.
 Url Url::deletingLastPathComponent() const {
   const UrlParts parts = splitUrl(text_);
   const std::size_t pathAndTail = parts.path.size() + parts.tail.size();

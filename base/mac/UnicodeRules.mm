@@ -4,8 +4,8 @@
 
 namespace launcher {
 
-/// Foundation's composed character sequences are the clusters; whether they keep a line end of two
-/// units together is not documented, hence the look at the pair.
+/// Counts Foundation's composed character sequences. Foundation does not document whether "\r\n" is
+/// one, so check for the pair here.
 std::size_t graphemeClusterCount(std::u16string_view units) {
   @autoreleasepool {
     NSString* text = toNSString(units);

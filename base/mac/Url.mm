@@ -16,8 +16,8 @@ std::optional<std::string> present(NSString* text) {
 
 }  // namespace
 
-/// The systems differ in what they take, and newer ones repair what older ones refuse: here they
-/// are only asked about what all of them take as it stands.
+/// Systems differ in which texts they accept, and newer ones repair what older ones refuse. So
+/// check the syntax first, and pass on only what every system accepts unchanged.
 std::optional<Url> Url::parse(std::string_view text) {
   @autoreleasepool {
     if (!isUrl(text) || platformUrl(text) == nil) return std::nullopt;
@@ -52,7 +52,8 @@ std::string Url::filePath() const {
   }
 }
 
-/// A URL without a path or at its root stays as it is; older systems append "../" to it.
+/// A URL without a path or at its root stays as it is. On older systems
+/// `URLByDeletingLastPathComponent` appends "../" to it.
 Url Url::deletingLastPathComponent() const {
   @autoreleasepool {
     NSURL* url = platformUrl(text_);

@@ -10,7 +10,7 @@
 #include <string>
 #include <type_traits>
 
-extern "C" {  // which the header does without before glibc 2.37
+extern "C" {  // missing in the header before glibc 2.37
 #include <sys/pidfd.h>
 }
 
@@ -20,7 +20,7 @@ extern "C" {  // which the header does without before glibc 2.37
 namespace launcher {
 namespace {
 
-// The table's records are the structure itself.
+// The table's records are this structure, byte by byte.
 static_assert(std::is_trivially_copyable_v<ProcessRecord>);
 
 constexpr const char* procFolder = "/proc";
@@ -32,11 +32,11 @@ std::optional<ProcessId> parseProcessId(std::string_view name) {
   return isWhole ? std::optional(pid) : std::nullopt;
 }
 
-/// Whether an error is the machine's own: nothing is known of the process then. Any other means
-/// that the process has gone since it was listed, or is hidden from this user.
+/// Whether the machine lacks resources to read the process. Any other error means that the process
+/// has gone since it was listed, or is hidden from this user.
 bool isWantOfResources(int error) { return error == EMFILE || error == ENFILE || error == ENOMEM; }
 
-/// The processes listed in /proc, one after the other.
+/// Walks the processes in /proc.
 class ProcessListing {
  public:
   ProcessListing() : stream_(opendir(procFolder)) {}
@@ -50,7 +50,7 @@ class ProcessListing {
 
   bool isOpen() const { return stream_ != nullptr; }
 
-  /// Absent at the end, and where the reading fails; `errno` is 0 at the end.
+  /// Absent at the end, with `errno` 0, and on a failure.
   std::optional<ProcessId> next() {
     errno = 0;
     while (const dirent* entry = readdir(stream_)) {
@@ -59,7 +59,7 @@ class ProcessListing {
     return std::nullopt;
   }
 
-  /// Absent where the record cannot be read; `errno` says why.
+  /// Absent if the record cannot be read; `errno` says why.
   std::optional<ProcessRecord> record(ProcessId pid) const {
     const std::string path = std::to_string(pid) + "/comm";  // short enough to need no allocation
     const Descriptor file(openat(dirfd(stream_), path.c_str(), O_RDONLY | O_CLOEXEC));
@@ -68,7 +68,7 @@ class ProcessListing {
     ProcessRecord record{pid, {}};
     const ssize_t size = read(file.number(), record.command.data(), record.command.size());
     if (size <= 0) return std::nullopt;
-    // The last byte read is the line's end, or the first that a record has no room for.
+    // The last byte is the line feed, or the first byte too many.
     record.command[static_cast<std::size_t>(size) - 1] = '\0';
     return record;
   }
@@ -82,7 +82,7 @@ class ProcTable : public ProcessTable {
   std::size_t recordSize() const override { return sizeof(ProcessRecord); }
 
   int probeSize(std::size_t& length) const override {
-    // Each process is a link of the folder, beside a few that are none. Counting the entries would
+    // The folder has one link for each process, and a few more. Counting the entries instead would
     // cost a sixth of a search.
     struct stat proc {};
     if (stat(procFolder, &proc) == -1) return -1;

@@ -10,7 +10,7 @@ namespace {
 
 class SpawnedProgram : public RunningProcess {
  public:
-  /// Whether the program was started.
+  /// False if the program cannot be started.
   bool start(const std::string& path, const std::vector<std::string>& arguments) {
     child_ = spawn({.path = path, .arguments = arguments});
     return child_ != nullptr;

@@ -17,7 +17,7 @@ class Task : public RunningProcess {
   NSTask* task_;
 };
 
-/// The platform reports a program that it cannot start by an exception.
+/// `launchedTaskWithLaunchPath:` raises an exception if it cannot start the program.
 NSTask* launched(NSString* path, NSArray<NSString*>* arguments) {
   @try {
     return [NSTask launchedTaskWithLaunchPath:path arguments:arguments];
