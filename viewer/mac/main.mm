@@ -3,13 +3,11 @@
 
 #import <AppKit/AppKit.h>
 
-#include <unistd.h>
-
 #include <cstdio>
+#include <string>
 
 #include "viewer/Arguments.h"
 #import "viewer/mac/SampleWindow.h"
-#include "viewer/mac/Toolkit.h"
 
 namespace {
 
@@ -21,7 +19,8 @@ void print(const viewer::Arguments& arguments) {
 
 /// Shows the launcher's icon, where there is one.
 void takeIcon(NSApplication* application, const viewer::Arguments& arguments) {
-  NSString* file = [NSString stringWithUTF8String:viewer::iconIn(arguments.resourceFolder).c_str()];
+  const std::string path = arguments.resourceFolder + "/VorxLauncher.icns";
+  NSString* file = [NSString stringWithUTF8String:path.c_str()];
   NSImage* icon = file != nil ? [[[NSImage alloc] initWithContentsOfFile:file] autorelease] : nil;
   if (icon != nil) [application setApplicationIconImage:icon];
 }
@@ -29,6 +28,8 @@ void takeIcon(NSApplication* application, const viewer::Arguments& arguments) {
 void showWindow(const viewer::Arguments& arguments) {
   @autoreleasepool {
     NSApplication* application = [NSApplication sharedApplication];
+    // A program outside of a bundle has no place among the applications unless it asks for one.
+    [application setActivationPolicy:NSApplicationActivationPolicyRegular];
     takeIcon(application, arguments);
     SampleWindow* window = [[[SampleWindow alloc] initWithArguments:arguments] autorelease];
     [application setDelegate:window];
@@ -48,10 +49,6 @@ int main(int argc, char** argv) {
   }
 
   print(*arguments);
-  if (viewer::prepareToolkit()) {
-    showWindow(*arguments);
-  } else {
-    pause();
-  }
+  showWindow(*arguments);
   return 0;
 }

@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
+#include <vector>
 
 #import "tests/window/mac/Stage.h"
 #import "tests/window/mac/Windows.h"
@@ -91,8 +93,7 @@ TEST_F(BaseClassTest, AnInitialiserThatFailsGivesNothingAndFindsAllPrepared) {
   }
   {
     const BaseClassMessage base(@selector(initWithCoder:), callSecondInitialiser, count);
-    NSCoder* coder =
-        [[[NSKeyedArchiver alloc] initForWritingWithMutableData:[NSMutableData data]] autorelease];
+    NSCoder* coder = [[[NSCoder alloc] init] autorelease];
     EXPECT_EQ([[ViewController alloc] initWithCoder:coder], nil);
     EXPECT_EQ(prepared, 2);
   }

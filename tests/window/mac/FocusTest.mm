@@ -45,7 +45,8 @@ class FocusTest : public testing::Test {
     [[location() currentEditor] setSelectedRange:NSMakeRange(start, length)];
   }
   bool isSelected(NSUInteger start, NSUInteger length) {
-    return NSEqualRanges([[location() currentEditor] selectedRange], NSMakeRange(start, length));
+    const NSRange selected = [[location() currentEditor] selectedRange];
+    return selected.location == start && selected.length == length;
   }
 
   /// In the place of the location field, with the focus.

@@ -13,6 +13,7 @@ typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
   NSApplicationActivationPolicyRegular,
 };
 
+FOUNDATION_EXPORT const NSNotificationName NSApplicationDidFinishLaunchingNotification;
 FOUNDATION_EXPORT const NSNotificationName NSApplicationWillTerminateNotification;
 FOUNDATION_EXPORT const NSRunLoopMode NSModalPanelRunLoopMode;
 

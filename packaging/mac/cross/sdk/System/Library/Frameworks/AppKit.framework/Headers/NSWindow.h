@@ -46,4 +46,7 @@ FOUNDATION_EXPORT @interface NSWindow : NSResponder
 - (void)makeKeyAndOrderFront:(nullable id)sender;
 @end
 
+FOUNDATION_EXPORT @interface NSPanel : NSWindow
+@end
+
 NS_ASSUME_NONNULL_END

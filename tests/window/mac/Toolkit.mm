@@ -1,6 +1,6 @@
-#include "tests/window/mac/Toolkit.h"
+#import "tests/window/mac/Toolkit.h"
 
-#include <CoreGraphics/CoreGraphics.h>
+#import <CoreGraphics/CoreGraphics.h>
 
 namespace launcher {
 
