@@ -29,7 +29,7 @@ function(launcher_test suite)
 
   foreach(target IN LISTS test_BUILDS)
     launcher_build_step(${target} "${CMAKE_COMMAND}" --build "${CMAKE_BINARY_DIR}" --target ${target})
-    set_tests_properties(build.${target} PROPERTIES RESOURCE_LOCK build)
+    set_tests_properties(build.${target} PROPERTIES COST 1000)  # before those of other presets
   endforeach()
   if(test_PRESET)
     launcher_build_step(${test_PRESET} "${CMAKE_COMMAND}" --workflow --preset ${test_PRESET})
@@ -44,11 +44,13 @@ function(launcher_test suite)
     ENVIRONMENT "GTEST_OUTPUT=xml:${record};GTEST_BRIEF=1;PYTEST_ADDOPTS=--junitxml=${record};${test_ENVIRONMENT}")
 endfunction()
 
-# A test that brings something up to date; those that need it run after it.
+# A test that brings something up to date; those that need it run after it. One at a time takes all the
+# processors.
 function(launcher_build_step name)
   if(NOT TEST build.${name})
     add_test(NAME build.${name} COMMAND ${ARGN} WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}")
-    set_tests_properties(build.${name} PROPERTIES FIXTURES_SETUP ${name} TIMEOUT 3600)
+    set_tests_properties(build.${name} PROPERTIES 
+      FIXTURES_SETUP ${name} RESOURCE_LOCK build TIMEOUT 3600)
   endif()
 endfunction()
 

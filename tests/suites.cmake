@@ -72,3 +72,7 @@ foreach(source IN LISTS targets)
     COMMAND "${CMAKE_SOURCE_DIR}/tests/fuzz/run" ${target} "${CMAKE_BINARY_DIR}/results/learnt/${target}"
             -seed=1 -runs=30000)
 endforeach()
+
+# A first run knows not yet what takes long; what only waits is done while others are built.
+set_tests_properties(e2e PROPERTIES COST 900)
+set_tests_properties(lint.tidy PROPERTIES COST 800)

@@ -30,8 +30,8 @@ const std::string kProse = repeated(
     1'000'000);
 
 struct HostileText {
-  const char* name;
-  const char* piece;
+  const char* name = "";
+  const char* piece = "";
   const char* beginning = "";
 };
 

@@ -44,7 +44,7 @@ class DiagnosticsTest : public ControllerFixture {
   /// A run of the listing tool that prints `output` and is judged to lead to `location`.
   std::vector<std::string> messagesOfRun(const std::string& output,
                                          const std::optional<std::string>& location) {
-    const auto tool = std::make_shared<FakeListingTool>();
+    auto tool = std::make_shared<FakeListingTool>();
     tool->output = {output};
     extractSourceFromDMG([&] { return tool; }, sleeper,
                          [&](const PropertyList::Dictionary&) { return location; });
