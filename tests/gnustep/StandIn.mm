@@ -1,6 +1,7 @@
 #import "tests/gnustep/StandIn.h"
 
 #import <AppKit/AppKit.h>
+#include <GNUstepGUI/GSVersion.h>
 
 #include <cstdlib>
 
@@ -8,8 +9,12 @@
 
 namespace launcher {
 
-bool prepareToolkit() {
-  if (std::getenv("DISPLAY") == nullptr) return false;
+std::optional<std::string> prepareToolkit() {
+  if (std::getenv("DISPLAY") == nullptr) return "no screen to show windows on";
+  // Later versions bring some of what is exchanged here, and their alerts wait in another way.
+  if (GNUSTEP_GUI_MINOR_VERSION != 29) {
+    return "made for GNUstep's AppKit 0.29, this is 0." + std::to_string(GNUSTEP_GUI_MINOR_VERSION);
+  }
   @autoreleasepool {
     installEventQueue();
     installLayers();
@@ -18,7 +23,7 @@ bool prepareToolkit() {
     installUndo();
     installViewLifecycle();
   }
-  return true;
+  return std::nullopt;
 }
 
 }  // namespace launcher

@@ -5,11 +5,11 @@
 namespace launcher {
 
 /// AppKit is ready as it is. Someone logged in from elsewhere has no screen.
-bool prepareToolkit() {
+std::optional<std::string> prepareToolkit() {
   const CFDictionaryRef session = CGSessionCopyCurrentDictionary();
-  if (session == nullptr) return false;
+  if (session == nullptr) return "no screen to show windows on";
   CFRelease(session);
-  return true;
+  return std::nullopt;
 }
 
 }  // namespace launcher

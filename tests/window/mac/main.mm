@@ -8,7 +8,7 @@
 namespace {
 
 // The exit status that makes CTest skip the suite.
-constexpr int withoutDisplay = 77;
+constexpr int skipped = 77;
 
 }  // namespace
 
@@ -16,9 +16,9 @@ int main(int argc, char** argv) {
   @autoreleasepool {
     testing::InitGoogleTest(&argc, argv);
     GTEST_FLAG_SET(death_test_style, "threadsafe");
-    if (!launcher::prepareToolkit()) {
-      std::puts("no screen to show windows on");
-      return withoutDisplay;
+    if (const auto reason = launcher::prepareToolkit()) {
+      std::puts(reason->c_str());
+      return skipped;
     }
     [[NSApplication sharedApplication] finishLaunching];
     return RUN_ALL_TESTS();
