@@ -36,12 +36,6 @@ class Part:
         """What a field holds."""
         return Atspi.Text.get_text(self._accessible, 0, -1)
 
-    @property
-    def selection(self):
-        """Where the selected text of a field begins and ends."""
-        marked = Atspi.Text.get_selection(self._accessible, 0)
-        return marked.start_offset, marked.end_offset
-
     def _has(self, state):
         return self._accessible.get_state_set().contains(state)
 

@@ -91,8 +91,9 @@ int main() {
   int count = 0;
   IceListenObj* places = nullptr;
   if (SmsInitialize(vendor, release, onNewClient, nullptr, allow, 0, nullptr) == 0 ||
-      IceListenForConnections(&count, &places, 0, nullptr) == 0)
+      IceListenForConnections(&count, &places, 0, nullptr) == 0) {
     return EXIT_FAILURE;
+  }
 
   std::vector<pollfd> watched{{signals, POLLIN, 0}};
   for (int place = 0; place < count; ++place) {
