@@ -19,7 +19,7 @@ struct Search {
   }
 };
 
-/// The range searched is counted in characters, though the detector counts UTF-16 units.
+/// Limits the search to as many UTF-16 units as the text has characters.
 Search firstLink(std::string_view text, const LinkDetector& detector) {
   const std::size_t characters = characterCount(text);
   return {detector.firstMatch(utf16(text), characters), characters};

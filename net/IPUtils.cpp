@@ -17,8 +17,8 @@ namespace {
 
 constexpr std::size_t kNameBufferSize = 1025;
 
-/// Whether an address is as long as its family wants: not every system looks at the length before
-/// it reads the address.
+/// Whether an address has the length that its family requires. Not every system checks the length
+/// before it reads the address.
 bool isComplete(const SocketAddress& address) {
   sockaddr start{};
   constexpr std::size_t kFamilyEnd = offsetof(sockaddr, sa_family) + sizeof(start.sa_family);

@@ -21,9 +21,9 @@ class LinkDetector {
  public:
   virtual ~LinkDetector() = default;
 
-  /// The first link of `text`, if it lies within the first `length` UTF-16 units, which are at most
-  /// the text's own. A link that goes on behind them counts as none, rather than as cut short.
-  /// Absent where there is none, and where the platform cannot make a detector.
+  /// The first link of `text`, if it lies wholly within the first `length` UTF-16 units; `length`
+  /// is at most the text's length. A link that continues beyond counts as none. Absent if there is
+  /// no link, or the platform cannot make a detector.
   ///
   ///     "see https://h.example/a."   -> https://h.example/a   at 4, 19 units
   ///     "h.example.com"              -> http://h.example.com  at 0, 13 units

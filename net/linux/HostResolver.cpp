@@ -18,15 +18,15 @@ SocketAddress bytesOf(const addrinfo& entry) {
   return bytes;
 }
 
-/// An empty name or one with a NUL names no host, but the platform's call would take it for none
-/// given or for its beginning.
+/// `getaddrinfo` would read an empty name as none given, and a name with a NUL only up to the NUL.
+/// Neither names a host.
 bool canNameAHost(const std::string& host) {
   return !host.empty() && host.find('\0') == std::string::npos;
 }
 
 using AddressList = std::unique_ptr<addrinfo, FreeList>;
 
-/// Null where the platform finds nothing.
+/// Null if the platform finds nothing.
 AddressList lookUp(const std::string& host, int flags) {
   addrinfo wanted{};
   wanted.ai_flags = flags;
@@ -41,7 +41,8 @@ class SystemResolver : public HostResolver {
   std::optional<std::vector<SocketAddress>> addresses(const std::string& host) const override {
     if (!canNameAHost(host)) return std::nullopt;
 
-    // What this machine's own addresses allow is no question for a numeric address.
+    // Accept a numeric address of any family. `AI_ADDRCONFIG` would refuse one of a family that
+    // this machine has no address of.
     AddressList list = lookUp(host, AI_NUMERICHOST);
     if (!list) list = lookUp(host, AI_ADDRCONFIG);
     if (!list) return std::nullopt;

@@ -9,8 +9,8 @@
 #include "net/linux/links/Tail.h"
 #include "net/linux/links/Traits.h"
 
-// Every link begins with a word or holds one before its "://" or "@". So the text is read word by
-// word, and each word once more at most as part of what precedes it: the time is linear.
+// Every link begins with a word, or has one before its "://" or "@". So read the text word by word.
+// A word is read at most once more, as part of a link before it, so the time is linear.
 namespace launcher {
 namespace {
 
@@ -28,8 +28,8 @@ Word withoutFullStops(std::u16string_view text, Word word) {
   return {word.begin, last == std::u16string_view::npos ? word.begin : word.begin + last + 1};
 }
 
-/// Where the scheme begins that a word ends with: a letter, then letters, digits and "+-.". A
-/// single letter is a drive's.
+/// Finds the scheme at a word's end: a letter, then letters, digits and "+-.". A single letter is a
+/// drive, not a scheme.
 std::optional<std::size_t> schemeBegin(std::u16string_view text, Word word) {
   std::size_t begin = word.end;
   while (begin > word.begin && has(text[begin - 1], inScheme)) --begin;
@@ -77,7 +77,8 @@ std::optional<LinkMatch> mailLink(std::u16string_view text, Word word) {
   return matchOf(text, *address);
 }
 
-/// "h.com:80/a": the word is the host. Part of a path or of something unreadable is none.
+/// "h.com:80/a": the word is the host, unless the mark before it makes it part of a path or of an
+/// address that we cannot read.
 std::optional<LinkMatch> domainLink(std::u16string_view text, Word word) {
   constexpr std::u16string_view kParting = u"/\\:@";
   const bool parted =
@@ -102,8 +103,8 @@ std::optional<LinkMatch> linkAt(std::u16string_view text, Word word) {
   return domainLink(text, word);
 }
 
-/// Where the search goes on behind a word that is no link. After a "scheme://" that leads nowhere
-/// whatever follows without a blank is part of the same failed address, not a link of its own.
+/// Where the search continues after a word that is no link. A "scheme://" without a link spoils
+/// everything up to the next blank: that is part of the same failed address, not a link of its own.
 std::size_t endOfRefused(std::u16string_view text, Word word) {
   return isBeforeAuthority(text, word) ? skipToBlank(text, word.end) : word.end;
 }

@@ -16,7 +16,7 @@ struct Release {
 template <class Reference>
 using Owned = std::unique_ptr<std::remove_pointer_t<Reference>, Release>;
 
-/// Null for what names no host: the platform would read a name up to its first NUL.
+/// Null for an empty name and for one with a NUL, which the platform would read only up to the NUL.
 Owned<CFStringRef> hostName(const std::string& text) {
   if (text.empty() || text.find('\0') != std::string::npos) return nullptr;
   const std::vector<UInt8> bytes(text.begin(), text.end());
@@ -25,7 +25,8 @@ Owned<CFStringRef> hostName(const std::string& text) {
                                                     kCFStringEncodingUTF8, false));
 }
 
-/// An element of another kind becomes an empty address, which has no numeric form.
+/// The address in an element. One of another kind becomes an empty address, which has no numeric
+/// form.
 SocketAddress addressIn(CFTypeRef element) {
   if (CFGetTypeID(element) != CFDataGetTypeID()) return {};
   const auto data = static_cast<CFDataRef>(element);
@@ -42,7 +43,7 @@ class CoreHostResolver : public HostResolver {
     const Owned<CFHostRef> host(CFHostCreateWithName(kCFAllocatorDefault, text.get()));
     if (!host) return std::nullopt;
 
-    // Without a callback scheduled this returns when the resolver has answered.
+    // This blocks until the resolver has answered, since no callback is set.
     CFHostStartInfoResolution(host.get(), kCFHostAddresses, nullptr);
     Boolean resolved = false;
     CFArrayRef found = CFHostGetAddressing(host.get(), &resolved);

@@ -10,8 +10,8 @@ NSTextCheckingResult* firstLink(NSDataDetector* detector, NSString* text, NSUInt
                                 range:NSMakeRange(0, length)];
 }
 
-/// The detector takes the end of its range for the text's and cuts a link there, so it is asked
-/// once more over the whole text.
+/// Whether the link continues beyond the range. The detector takes the end of its range for the
+/// text's end and cuts a link there, so search the whole text too.
 bool goesOnBehind(NSUInteger length, NSDataDetector* detector, NSString* text) {
   if (length == [text length]) return false;
   NSTextCheckingResult* whole = firstLink(detector, text, [text length]);

@@ -34,7 +34,7 @@ std::size_t skipLabel(std::u16string_view text, std::size_t at) {
   return at;
 }
 
-/// A full stop belongs to the name before a further label, and at the root before a path or port.
+/// A full stop belongs to the name if a label follows, or a path or port.
 std::size_t skipName(std::u16string_view text, std::size_t at) {
   std::size_t end = skipLabel(text, at);
   while (end > at && unitIs(text, end, u'.')) {

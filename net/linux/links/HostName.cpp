@@ -25,7 +25,7 @@ bool consistsOf(std::string_view text, const ByteSet& bytes) {
   return std::all_of(text.begin(), text.end(), [&](char byte) { return bytes.holds(byte); });
 }
 
-/// Made once; it is never changed and so shared by all threads.
+/// Made once, never changed, and shared by all threads.
 const UIDNA* punycode() {
   static const UIDNA* const converter = [] {
     UErrorCode status = U_ZERO_ERROR;
@@ -35,8 +35,7 @@ const UIDNA* punycode() {
   return converter;
 }
 
-/// Absent where the name is too long. What becomes of a symbol may hold separators, so the result
-/// is looked at.
+/// Absent if the name is too long. A symbol may turn into separators, so check the result too.
 std::optional<std::string> punycodeOf(std::u16string_view host) {
   if (host.size() > kLongestHost || punycode() == nullptr) return std::nullopt;
   std::array<char16_t, kLongestHost + 1> converted{};

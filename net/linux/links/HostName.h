@@ -7,15 +7,15 @@
 /// Host names of links. No state; any thread.
 namespace launcher::links {
 
-/// The host as it stands in a URL: itself where it is ASCII, else in its Punycode form. Absent
-/// where no such form exists.
+/// The host for a URL: unchanged if it is ASCII, else in its Punycode form. Absent if it has no
+/// such form.
 ///
 ///     u"Server.example"        -> "Server.example"
 ///     u"b\u00fccher.example"   -> "xn--bcher-kva.example"
 std::optional<std::string> asciiHost(std::u16string_view host);
 
-/// Whether a text can be taken for a domain though no scheme says so: two labels or more, the last
-/// a known top-level domain, or three or more, the first "www".
+/// Whether a text without a scheme looks like a domain: two or more labels, the last a known
+/// top-level domain; or three or more, the first "www".
 ///
 ///     u"server.example.com"   -> true
 ///     u"file.txt"             -> false

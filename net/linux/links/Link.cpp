@@ -9,7 +9,7 @@
 namespace launcher::links {
 namespace {
 
-/// What stands before a host: a scheme, credentials and the last "@", each where there is one.
+/// Escapes the part before the host: the scheme, credentials and the last "@", if they are there.
 std::string escapedFront(std::string_view front) {
   if (!front.ends_with('@')) return std::string(front);
   const std::size_t slashes = front.find("//");

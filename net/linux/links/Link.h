@@ -8,17 +8,17 @@
 
 namespace launcher::links {
 
-/// A stretch of text that is a link, and where its host stands in it.
+/// The place of a link in a text, and of the host in it.
 struct Link {
-  std::string_view scheme;  ///< of the URL, where the text leaves it out: "http://", "mailto:"
+  std::string_view scheme;  ///< the scheme that the text leaves out: "http://", "mailto:"
   std::size_t begin = 0;
   std::size_t hostBegin = 0;
   std::size_t hostEnd = 0;
   std::size_t end = 0;
 };
 
-/// The link with its URL: an international host in its Punycode form, escapes for what a URL cannot
-/// hold. Absent where the host has no such form. Any thread.
+/// Makes the link's URL: with an international host in its Punycode form, and escapes for what a
+/// URL cannot hold. Absent if the host has no such form. Any thread.
 std::optional<LinkMatch> matchOf(std::u16string_view text, const Link& link);
 
 }  // namespace launcher::links

@@ -6,12 +6,12 @@
 namespace launcher::links {
 namespace {
 
-/// Counts the brackets of one kind that are open.
+/// Counts the open brackets of one kind.
 class Brackets {
  public:
   Brackets(char32_t opening, char32_t closing) : opening_(opening), closing_(closing) {}
 
-  /// Whether a character keeps them balanced: all do but a closing one without its opening one.
+  /// Counts a character. False for a closing bracket without an opening one.
   bool take(char32_t point) {
     if (point == opening_) ++open_;
     if (point != closing_) return true;

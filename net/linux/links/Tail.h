@@ -5,9 +5,9 @@
 
 namespace launcher::links {
 
-/// The end of path, query and fragment that begin at a place, or the place itself where nothing of
-/// the kind does. Punctuation at the end and brackets opened before the link do not belong to it.
-/// Any thread.
+/// The end of the path, query and fragment at a place, or the place itself if there are none. They
+/// end before punctuation at the end, and before the closing bracket of one that was opened before
+/// the link. Any thread.
 ///
 ///     skipTail(u"/a, b", 0)      -> 2
 ///     skipTail(u"/a(b))", 0)     -> 5

@@ -40,8 +40,9 @@ constexpr std::uint32_t kLetterLike =
     U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK | U_GC_SO_MASK | U_GC_SK_MASK;
 constexpr std::uint32_t kOtherSymbols = U_GC_SM_MASK | U_GC_SC_MASK | U_GC_CO_MASK | U_GC_CN_MASK;
 
-/// Letters, marks, digits and emoji stand wherever ASCII letters do, other symbols in the tail,
-/// punctuation inside it. Blanks, controls and invisible characters end a link.
+/// Letters, marks, digits and emoji may stand wherever ASCII letters may; other symbols anywhere in
+/// the tail; punctuation only inside the tail. Blanks, controls and invisible characters end a
+/// link.
 Traits traitsBeyondAscii(char32_t point) {
   constexpr char32_t kNonJoiner = 0x200C;
   constexpr char32_t kJoiner = 0x200D;
@@ -84,7 +85,7 @@ std::size_t skip(std::u16string_view text, std::size_t at, Trait trait) {
 }
 
 std::size_t skipToBlank(std::u16string_view text, std::size_t at) {
-  // All blanks and controls are of one unit.
+  // Every blank and control is a single unit.
   const auto isBlank = [](char16_t unit) { return u_isUWhiteSpace(unit) || u_iscntrl(unit); };
   while (at < text.size() && !isBlank(text[at])) ++at;
   return at;

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-/// Which characters may stand where in a link. No state; any thread.
+/// The places in a link where a character may stand. No state; any thread.
 namespace launcher::links {
 
 enum Trait : std::uint8_t {
@@ -16,22 +16,22 @@ enum Trait : std::uint8_t {
   atEnd = 1U << 5U,       // at the end of a tail: "see https://h/a." ends before the full stop
 };
 
-/// Whether a character, given as its code point, has a trait.
+/// Whether a code point has a trait.
 bool has(char32_t point, Trait trait);
 
-/// The place behind the longest run of characters with a trait. Lone surrogates have none.
+/// The end of the run of characters with a trait. Lone surrogates have no trait.
 ///
 ///     skip(u"a.b/c", 0, inWord)   -> 3
 std::size_t skip(std::u16string_view text, std::size_t at, Trait trait);
 
-/// The place of the next blank or control character, or the text's end.
+/// The next blank or control character, or the text's end.
 std::size_t skipToBlank(std::u16string_view text, std::size_t at);
 
 inline bool isAsciiLetter(char16_t unit) {
   return (unit >= u'A' && unit <= u'Z') || (unit >= u'a' && unit <= u'z');
 }
 
-/// Whether the unit at a place, which may lie behind the text, is this one.
+/// Whether `unit` is at a place, which may lie beyond the text.
 inline bool unitIs(std::u16string_view text, std::size_t at, char16_t unit) {
   return at < text.size() && text[at] == unit;
 }
