@@ -7,12 +7,12 @@
 
 namespace launcher {
 
-/// Sends a signal to a process, as `kill` does. What it returns is ignored.
+/// Sends a signal to a process, as `kill` does. The result is ignored.
 using SignalSender = std::function<int(ProcessId process, int signal)>;
 
-/// What is done just before the application ends: the viewer that `launchControl` started is asked
-/// to stop, then the first process that matches "vexwatch" gets SIGTERM. Waits for nothing. A
-/// viewer that somebody else started goes on. Main thread.
+/// Runs just before the application ends. Asks the viewer that `launchControl` started to stop,
+/// then sends SIGTERM to the first process that matches "vexwatch". Waits for neither, and leaves a
+/// viewer that somebody else started running. Main thread.
 void quitSequence(LaunchControl& launchControl, const ProcessTable& processes,
                   const SignalSender& sendSignal);
 

@@ -21,8 +21,8 @@ struct PlatformServices {
   std::unique_ptr<WorkQueue> mainQueue;
 };
 
-/// Those that the application uses. Made on first use and never destroyed, since background work
-/// may still use them while the process ends. Any thread.
+/// The application's services. The first use makes them. They are never destroyed, since background
+/// work may still use them while the process ends. Any thread.
 const PlatformServices& platformServices();
 
 }  // namespace launcher

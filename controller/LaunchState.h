@@ -8,8 +8,8 @@ namespace launcher {
 
 enum class LaunchState : std::uint8_t {
   noURL,              ///< the location or the IP address is not valid; nothing can be launched
-  runningReadyToRun,  ///< inputs valid, the viewer runs; a press starts it again
-  readyToRun,         ///< inputs valid, the viewer does not run; a press starts it
+  runningReadyToRun,  ///< both inputs are valid and the viewer runs; a press starts it again
+  readyToRun,         ///< both inputs are valid and the viewer does not run; a press starts it
   gettingIPAddress,   ///< a launch was requested and the host name is being resolved
 };
 

@@ -11,7 +11,7 @@
 namespace launcher {
 namespace {
 
-/// A location typed without a scheme is meant as a secure one.
+/// A location without a scheme means "https".
 std::string withScheme(const std::string& location) {
   return location.find("://") == std::string::npos ? "https://" + location : location;
 }
@@ -99,7 +99,7 @@ void LauncherController::lookupFailed(const std::string& host) {
   window_.showAlert({.message = filledIn(translated(texts::lookupFailed), host),
                      .informative = translated(texts::checkAddress),
                      .button = translated(texts::ok)});
-  // The button stays disabled until an edit of the location has the state evaluated again.
+  // Keep the button disabled: an edit of the location evaluates the state again.
   window_.setVorxLocation(Availability::enabled);
 }
 

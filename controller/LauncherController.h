@@ -21,7 +21,7 @@
 
 namespace launcher {
 
-/// What the controller asks of the world. All of it must outlive the controller and its work.
+/// What the controller needs from the platform. All of it must outlive the controller and its work.
 struct ControllerServices {
   const ApplicationBundle& bundle;
   const HostResolver& resolver;
@@ -35,21 +35,21 @@ struct ControllerServices {
   WorkQueue& mainQueue;
 };
 
-/// What the application's window is given. Defined by whoever assembles the program.
+/// The services for the application's window. The program that links the controller defines this.
 const ControllerServices& controllerServices();
 
-/// Everything that the launcher's window decides.
+/// Makes every decision of the launcher's window.
 ///
-/// The state is never stored: each evaluation computes it from the two fields and the process
-/// table, shows it and forgets it.
+/// It never stores the state: each evaluation computes it from the two fields and the process
+/// table, and shows it.
 class LauncherController {
  public:
-  /// `background` is a queue of the window's own; it and `window` must outlive the controller.
+  /// `background` is the window's own queue; it and `window` must outlive the controller.
   LauncherController(LauncherWindow& window, WorkQueue& background,
                      const ControllerServices& services);
 
-  /// The view has loaded: queues the search for the server, then records whether the viewer runs.
-  /// Main thread.
+  /// Called when the view has loaded. Queues the search for the server, then records whether the
+  /// viewer runs. Main thread.
   void viewDidLoad();
 
   /// The status line of a state, in the person's language. Any thread.
@@ -59,9 +59,9 @@ class LauncherController {
   /// status line. Main thread.
   void updateState();
 
-  /// A press of the launch button: locks the form, resolves the host and starts the viewer in the
-  /// background, then evaluates the state or shows an alert. A location that has no host is ignored
-  /// silently. Main thread.
+  /// Handles a press of the launch button. Locks the form, resolves the host and starts the viewer
+  /// in the background, then evaluates the state or shows an alert. Silently ignores a location
+  /// without a host. Main thread.
   void launchButtonClick();
 
   /// The typed address if it is valid, else the host's first address, or absent. Blocks while the
@@ -72,8 +72,8 @@ class LauncherController {
   /// Queues the search for the server location on the background queue. Any thread.
   void searchDMGs();
 
-  /// Lists the attached disk images and returns the server location found, or absent. Blocks for
-  /// more than a second; any thread but the main one.
+  /// Lists the attached disk images and returns the server location that they lead to, or absent.
+  /// Blocks for more than a second; any thread but the main one.
   std::optional<std::string> extractSourceFromDMG() const;
 
   /// The server location that a listing of attached images leads to, or absent. Any thread.
@@ -82,8 +82,8 @@ class LauncherController {
   /// The server location recorded on a disk image file, or absent. Any thread.
   std::optional<std::string> extractWhereAreYouFrom(const Url& url) const;
 
-  /// Queues, for the main thread, writing `source` into the location field, whatever it holds by
-  /// then, and an evaluation of the state. Any thread.
+  /// Queues an item for the main thread that writes `source` into the location field, over any text
+  /// there, and evaluates the state. Any thread.
   void updateSourceLocation(const std::string& source);
 
  private:

@@ -5,7 +5,7 @@
 
 namespace launcher {
 
-/// What the text of the IP field was found to be.
+/// The result of checking the IP field's text.
 enum class AddressMark { empty, valid, invalid };
 
 enum class Availability { disabled, enabled };
@@ -16,8 +16,8 @@ struct Alert {
   std::string button;
 };
 
-/// The launcher's window as its logic sees it. Texts are UTF-8. Main thread only, but for
-/// `keepAlive`. A control that is not connected stops the program.
+/// The launcher's window as its logic sees it. Texts are UTF-8. Main thread only, except
+/// `keepAlive`. Ends the program if a control is not connected.
 struct LauncherWindow {
   virtual ~LauncherWindow() = default;
 
@@ -26,8 +26,7 @@ struct LauncherWindow {
   virtual void setVorxLocation(Availability availability) = 0;
 
   virtual std::string ipAddress() const = 0;
-  /// Shows in the IP field's colour what its text was found to be; nothing happens where the field
-  /// has no layer.
+  /// Shows the result in the IP field's colour. Does nothing if the field has no layer.
   virtual void setIpAddressMark(AddressMark mark) = 0;
 
   virtual void setLaunchButton(Availability availability) = 0;
@@ -35,11 +34,11 @@ struct LauncherWindow {
 
   virtual void setInfoLabel(const std::string& text) = 0;
 
-  /// Shows the alert and blocks until it has been dismissed; the window goes on being drawn.
+  /// Shows the alert and blocks until it is dismissed; the window is still drawn meanwhile.
   virtual void showAlert(const Alert& alert) = 0;
 
-  /// A token that keeps the window's controller alive, with this object, for as long as it is held.
-  /// Any thread, for taking and for letting go.
+  /// A token that keeps the window's controller and this object alive. Take and drop it on any
+  /// thread.
   virtual std::shared_ptr<void> keepAlive() = 0;
 };
 

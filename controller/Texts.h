@@ -7,7 +7,7 @@
 
 namespace launcher {
 
-/// A text that is shown: its key, which is the English text, and a comment for translators.
+/// A text that the person reads: its key, which is the English text, and a comment for translators.
 struct LocalizableText {
   std::string_view key;
   std::string_view comment;

@@ -7,16 +7,16 @@
 
 namespace launcher {
 
-/// Looks shown texts up in the main bundle's default strings table. Any thread.
+/// Looks up texts in the main bundle's default strings table. Any thread.
 class Translations {
  public:
   virtual ~Translations() = default;
 
-  /// The text in the person's language; the key itself where there is no translation.
+  /// The text in the person's language; the key itself if there is no translation.
   virtual std::string operator()(const LocalizableText& text) const = 0;
 };
 
-/// Asks the running application's bundle.
+/// Makes one for the running application's bundle.
 std::unique_ptr<Translations> makeTranslations();
 
 }  // namespace launcher

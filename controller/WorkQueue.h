@@ -14,8 +14,8 @@ class WorkQueue {
   virtual void add(std::function<void()> item) = 0;
 };
 
-/// The queue of the main thread. Its items run one after another: one that is added while another
-/// shows an alert runs after that alert has been dismissed.
+/// The main thread's queue. Its items run one after another: an item that is added while another
+/// shows an alert runs after that alert is dismissed.
 std::unique_ptr<WorkQueue> makeMainQueue();
 
 }  // namespace launcher

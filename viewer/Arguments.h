@@ -5,15 +5,14 @@
 
 namespace viewer {
 
-/// What the launcher hands to a viewer, each text exactly as received.
+/// The launcher's arguments for a viewer, unchanged.
 struct Arguments {
   std::string host;
   std::string ipAddress;
   std::string resourceFolder;
 };
 
-/// The arguments of a program that was started as the launcher starts a viewer; absent where they
-/// are anything else.
+/// Reads the arguments with which the launcher starts a viewer; absent for any others.
 ///
 ///     vexlink -l HOST -i ADDRESS -r FOLDER
 std::optional<Arguments> parseArguments(int argc, const char* const* argv);

@@ -18,7 +18,7 @@ QuitSignals::QuitSignals() {
 void QuitSignals::watch() {
   if (descriptor_ == -1) return;
   notifier_.emplace(descriptor_, QSocketNotifier::Read);
-  // An exit, unlike a quit, asks no window whether it may be closed.
+  // Exit rather than quit: quitting would first ask each window whether it may be closed.
   QObject::connect(&*notifier_, &QSocketNotifier::activated, [] { QCoreApplication::exit(); });
 }
 

@@ -5,16 +5,16 @@
 
 namespace launcher {
 
-/// The signals that ask the program to end: SIGTERM, SIGINT and SIGHUP. They leave the event loop,
-/// as its other events do, instead of ending the process.
+/// Makes the signals that ask a program to end (SIGTERM, SIGINT and SIGHUP) end the event loop
+/// instead of the process.
 class QuitSignals {
  public:
-  /// Holds the signals back from now on, in this thread and those that it starts later. To be made
-  /// before any thread is.
+  /// Blocks the signals in this thread and in those that it starts later. Construct it before any
+  /// thread starts.
   QuitSignals();
 
-  /// Has the application's event loop end when one comes, or has come already. Once the
-  /// application exists.
+  /// Ends the event loop when a signal comes, or has come already. Call it once the application
+  /// exists.
   void watch();
 
  private:

@@ -18,10 +18,10 @@
 namespace launcher {
 namespace {
 
-/// The words that the toolkit reads as a command line: not the person's, which count for nothing.
+/// The command line for the toolkit. The person's own arguments are ignored.
 ///
-/// A window can ask to float in X11 only, so that comes first, also on a desktop that has both;
-/// unless the environment says otherwise.
+/// X11 comes first, even on a desktop that has both, since only there a window can ask to float.
+/// The environment can say otherwise.
 struct ToolkitArguments {
   std::array<char, 13> program{"VorxLauncher"};
   std::array<char, 10> option{"-platform"};
@@ -30,8 +30,8 @@ struct ToolkitArguments {
   int count = qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? 1 : 3;
 };
 
-/// What the toolkit has to remark is nothing that a person could act on; where it finds no display
-/// it aborts.
+/// Drops the toolkit's warnings, which a person could not act on, and prints its fatal errors.
+/// Without a display the toolkit would abort, so exit first.
 void handleToolkitMessage(QtMsgType type, const QMessageLogContext&, const QString& message) {
   if (type != QtFatalMsg) return;
   if (QCoreApplication::startingUp()) {
@@ -41,7 +41,7 @@ void handleToolkitMessage(QtMsgType type, const QMessageLogContext&, const QStri
   std::fprintf(stderr, "VorxLauncher: %s\n", qPrintable(message));
 }
 
-/// The toolkit's own texts, such as a field's menu, in the language of the window.
+/// Loads the toolkit's own texts, such as a field's menu, in the window's language.
 void loadToolkitTexts(QTranslator& translator) {
   const TextTable* table = desktopsTable();
   if (table == nullptr) return;
@@ -59,7 +59,7 @@ void quitOnce() {
   });
 }
 
-/// The toolkit calls `exit` when its display is lost.
+/// The toolkit calls `exit` when it loses its display.
 void quitAtExit() {
   std::atexit([] {
     quitOnce();
@@ -94,5 +94,5 @@ int run() {
 }  // namespace
 }  // namespace launcher
 
-/// Background work may go on until the process ends, so nothing that it uses is destroyed.
+/// Background work may go on until the process ends, so end it without destroying anything.
 int main() { std::_Exit(launcher::run()); }

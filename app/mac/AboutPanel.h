@@ -3,7 +3,7 @@
 #import <AppKit/AppKit.h>
 
 /// Shows the platform's "About" panel above the launcher's floating window, which would hide it.
-/// Made by the layout resource.
+/// The layout resource makes this object.
 @interface AboutPanel : NSObject
 
 - (IBAction)show:(id)sender;

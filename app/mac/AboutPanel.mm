@@ -2,7 +2,8 @@
 
 @implementation AboutPanel
 
-/// AppKit hands the panel to nobody, but no other window of the application is an ordinary one.
+/// AppKit does not hand out the panel. Find it by its level: no other window of the application has
+/// the normal one.
 - (IBAction)show:(id)sender {
   [NSApp orderFrontStandardAboutPanel:sender];
   for (NSWindow* window in [NSApp windows]) {

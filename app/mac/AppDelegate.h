@@ -2,6 +2,6 @@
 
 #import <AppKit/AppKit.h>
 
-/// Ends the application with its window, and with the application what it started.
+/// Ends the application when its window closes, and runs the quit sequence.
 @interface AppDelegate : NSObject <NSApplicationDelegate>
 @end

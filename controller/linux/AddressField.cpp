@@ -12,7 +12,7 @@ constexpr qreal borderWidth = 1;
 constexpr qreal cornerRadius = 5;
 constexpr qreal focusWidth = 2;
 
-/// Takes every text, less its line breaks.
+/// Accepts every text and removes its line breaks.
 class OneLine : public QValidator {
  public:
   using QValidator::QValidator;
@@ -25,8 +25,8 @@ class OneLine : public QValidator {
   }
 };
 
-/// Shows the window through, also behind the placeholder, whose own colour is not readable on it in
-/// every desktop's dark colours.
+/// Lets the window show through. The placeholder gets the text's colour, since its own is not
+/// readable on every desktop's dark window.
 QPalette withoutBackground(QPalette palette) {
   QColor pale = palette.color(QPalette::WindowText);
   pale.setAlphaF(0.5F);
@@ -35,7 +35,7 @@ QPalette withoutBackground(QPalette palette) {
   return palette;
 }
 
-/// A rectangle whose line of a width lies inside of it.
+/// The rectangle whose border, drawn with a line of `width`, lies inside `outer`.
 QRectF lineInside(const QRectF& outer, qreal width) {
   const qreal half = width / 2;
   return outer.adjusted(half, half, -half, -half);
@@ -67,7 +67,7 @@ void AddressField::blackenText() {
   setPalette(readable);
 }
 
-/// The border and the background; the text comes above them.
+/// Draws the border and the background, then the text above them.
 void AddressField::paintEvent(QPaintEvent* event) {
   {
     QPainter painter(this);

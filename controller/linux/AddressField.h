@@ -6,16 +6,16 @@
 
 namespace launcher {
 
-/// A text field for an address: a rounded border, which shows the focus, and a background that may
-/// say something about the text. Takes a text of any length, and of several lines, which it joins:
-/// line breaks would not be seen.
+/// A text field for an address. Its rounded border shows the focus; its background can show the
+/// result of a check. Accepts a text of any length and joins several lines into one, since line
+/// breaks would not be seen.
 class AddressField : public QLineEdit {
  public:
   /// `placeholder` is shown while the field is empty.
   explicit AddressField(const QString& placeholder);
 
-  /// The colour behind the text, which is black on it whatever the desktop's own colours are.
-  /// Until one is given the window shows through.
+  /// Sets the colour behind the text, which then is black in any of the desktop's colours. Before
+  /// the first call the window shows through.
   void setBackground(const QColor& colour);
 
  protected:

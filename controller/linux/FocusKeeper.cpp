@@ -3,14 +3,14 @@
 namespace launcher {
 namespace {
 
-/// A field keeps its selection as it does when its window is left.
+/// With this reason a field keeps its selection, as when its window loses the focus.
 constexpr Qt::FocusReason keepingSelection = Qt::ActiveWindowFocusReason;
 
 }  // namespace
 
 void FocusKeeper::setEnabled(QWidget& control, bool enabled) {
   if (control.isEnabled() == enabled) return;
-  // Before it is disabled, since the toolkit would hand the focus on to the next control.
+  // Take the focus away before disabling the control: the toolkit would pass it to the next one.
   if (!enabled && window_.focusWidget() == &control) holdFor(control);
   control.setEnabled(enabled);
   if (enabled && waiting_ == &control) giveBack();

@@ -5,11 +5,11 @@
 
 namespace launcher {
 
-/// Enables and disables a window's controls so that the keyboard's focus is never lost.
+/// Enables and disables a window's controls without losing the keyboard focus.
 ///
-/// A control that is disabled while it has the focus has it back, a field with its selection, as
-/// soon as it is enabled; unless the person has gone to another control meanwhile. In between no
-/// other control has it: what is typed must not go where the person does not expect it.
+/// A control that is disabled while it has the focus gets it back when it is enabled, a field with
+/// its selection, unless the person has moved to another control. In between no control has the
+/// focus, so that typed text does not go where the person does not expect it.
 class FocusKeeper {
  public:
   /// `window` holds the controls and outlives this object.
@@ -17,7 +17,7 @@ class FocusKeeper {
 
   void setEnabled(QWidget& control, bool enabled);
 
-  /// Gives a control the focus, now or as soon as it is enabled.
+  /// Gives a control the focus, at once or when it is enabled.
   void moveTo(QWidget& control);
 
  private:

@@ -46,7 +46,7 @@ class Maker {
     return made;
   }
 
-  /// Smaller and paler than the rest, whatever the desktop's colours are.
+  /// A hint is smaller and paler than other texts, in any of the desktop's colours.
   QLabel* hint(const LocalizableText& shown) const {
     auto* made = label(shown);
     auto* pale = new QGraphicsOpacityEffect(made);
@@ -71,7 +71,7 @@ class Maker {
     return made;
   }
 
-  /// A click leaves the focus in the field where it is.
+  /// A click on the button leaves the focus in the field.
   QPushButton* launchButton() const {
     auto* made = new QPushButton(withoutMnemonic(text(texts::launch)));
     made->setToolTip(text(launchTip));
@@ -85,7 +85,7 @@ class Maker {
   const Translations& translations_;
 };
 
-/// Widgets one below the other that belong together.
+/// Puts widgets that belong together one below the other.
 QVBoxLayout* row(const QList<QWidget*>& widgets) {
   auto* made = new QVBoxLayout;
   made->setSpacing(withinRow);

@@ -9,7 +9,7 @@
 
 namespace launcher {
 
-/// The controls of the launcher's window and how they are laid out.
+/// The controls of the launcher's window.
 struct LauncherForm {
   AddressField* vorxLocation;
   AddressField* ipAddress;
@@ -17,11 +17,11 @@ struct LauncherForm {
   QPushButton* launchButton;
 };
 
-/// Fills a window with its controls, which belong to it, and gives it its title. The controls are
-/// as they are before the first evaluation: the button disabled, the IP field without a colour.
+/// Fills a window with its controls, which the window owns, and sets its title. The controls are
+/// ready for the first evaluation: the button is disabled, the IP field has no colour.
 LauncherForm layOut(QWidget& window, const Translations& translations);
 
-/// A text as a label or a button takes it: "&" would underline the letter that follows.
+/// Escapes "&" for labels and buttons, where it would underline the next letter.
 QString withoutMnemonic(QString text);
 
 }  // namespace launcher

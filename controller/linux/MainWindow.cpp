@@ -23,7 +23,7 @@ QColor colour(AddressMark mark) {
   Q_UNREACHABLE();
 }
 
-/// A text whose long words, such as host names, go on in the next line instead of being cut off.
+/// Lets long words, such as host names, continue in the next line instead of being cut off.
 QString withBreaks(QString text) {
   static const QRegularExpression longWord(QStringLiteral("(\\S{40})"));
   return text.replace(longWord, QStringLiteral("\\1\u200B"));
@@ -38,7 +38,7 @@ std::shared_ptr<MainWindow> MainWindow::make(const ControllerServices& services)
   return window;
 }
 
-/// It stays above ordinary windows whenever it is shown.
+/// The window stays above ordinary windows.
 MainWindow::MainWindow(const ControllerServices& services)
     : QWidget(nullptr, Qt::Window | Qt::WindowStaysOnTopHint),
       form_(layOut(*this, services.translations)),
@@ -50,7 +50,7 @@ MainWindow::MainWindow(const ControllerServices& services)
 
 void MainWindow::connectControls() {
   for (AddressField* field : {form_.vorxLocation, form_.ipAddress}) {
-    // The signal for edits alone would leave out what a screen reader enters.
+    // `textEdited` would miss the text that a screen reader enters.
     connect(field, &QLineEdit::textChanged, this, [this] { controller_.updateState(); });
     connect(field, &QLineEdit::returnPressed, form_.launchButton, &QPushButton::click);
   }
@@ -91,7 +91,7 @@ void MainWindow::setInfoLabel(const std::string& text) {
   form_.infoLabel->say(QString::fromStdString(text));
 }
 
-/// Texts may hold what a person typed, so they are shown as they are, not read as markup.
+/// The texts may contain what the person typed, so show them as plain text, not as markup.
 void MainWindow::showAlert(const Alert& alert) {
   QMessageBox box(this);
   box.setWindowFlag(Qt::WindowStaysOnTopHint);
@@ -107,7 +107,7 @@ void MainWindow::showAlert(const Alert& alert) {
   box.exec();
 }
 
-/// An alert is hidden with its window, and may come up while the person is elsewhere.
+/// An alert would be hidden with its minimised window, and unseen while the person works elsewhere.
 void MainWindow::callForAttention() {
   if (isMinimized()) setWindowState(windowState() & ~Qt::WindowMinimized);
   QApplication::alert(this);

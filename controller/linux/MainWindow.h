@@ -10,14 +10,14 @@
 
 namespace launcher {
 
-/// The launcher's window, as the toolkit reaches it. It decides nothing: every event is handed on
-/// to the logic. Main thread only, but for `keepAlive`.
+/// The launcher's window for the toolkit. It decides nothing: it passes every event on to the
+/// logic. Main thread only, except `keepAlive`.
 class MainWindow : public QWidget,
                    public LauncherWindow,
                    public std::enable_shared_from_this<MainWindow> {
  public:
-  /// Not yet shown; the search for the server is queued already. Whoever lets go of the window last
-  /// may do so on any thread: it is destroyed on the main one.
+  /// Makes the window and queues the search for the server, but does not show the window yet. The
+  /// last reference may be dropped on any thread; the window is destroyed on the main one.
   static std::shared_ptr<MainWindow> make(const ControllerServices& services);
 
   std::string vorxLocation() const override;

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int lines = 2;
 
-/// The narrowest width, to a character, in which a text takes no more than its lines.
+/// The narrowest width, to about a character, in which a text fits into its lines.
 int neededWidth(const QString& text, const QFontMetrics& metrics) {
   const auto height = [&](int width) {
     const QRect room(0, 0, width, std::numeric_limits<int>::max());
@@ -24,7 +24,7 @@ int neededWidth(const QString& text, const QFontMetrics& metrics) {
   return width;
 }
 
-/// Screen readers say a notification when it is shown, a label only where they are asked to.
+/// Screen readers speak a notification when it appears, but a label only on request.
 QAccessibleInterface* makeNotification(const QString&, QObject* object) {
   auto* line = dynamic_cast<StatusLine*>(object);
   return line == nullptr ? nullptr : new QAccessibleWidget(line, QAccessible::Notification);

@@ -5,13 +5,13 @@
 
 namespace launcher {
 
-/// A text of up to two lines, which a screen reader says aloud whenever it changes.
+/// A text of up to two lines that a screen reader speaks whenever it changes.
 class StatusLine : public QLabel {
  public:
-  /// It is as wide as the longest of `texts` needs for two lines.
+  /// Makes it wide enough for each of `texts` in two lines.
   explicit StatusLine(QStringList texts);
 
-  /// Shows a text, and has a screen reader say it where it is another than before.
+  /// Shows a text. A screen reader speaks it if it differs from the last one.
   void say(const QString& text);
 
   QSize sizeHint() const override;

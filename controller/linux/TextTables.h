@@ -8,24 +8,24 @@
 
 namespace launcher {
 
-/// The shown texts in one language, as resources/LANGUAGE.lproj/Localizable.strings has them.
+/// The texts in one language, from resources/LANGUAGE.lproj/Localizable.strings.
 struct TextTable {
   struct Entry {
     std::string_view key;
     std::string_view text;
   };
 
-  std::string_view language;  ///< as the folder is named, e.g. "zh-Hans"
+  std::string_view language;  ///< the folder's name, e.g. "zh-Hans"
   std::span<const Entry> entries;
 
   QString name() const { return QString::fromStdString(std::string(language)); }
 };
 
-/// All of them, made from the folders by the build.
+/// All tables. The build makes them from the folders.
 std::span<const TextTable> textTables();
 
-/// The table for a person who reads these languages, the best first; null where there is none. The
-/// form of a language does not matter as long as it is written in the same script.
+/// The table for a person who reads these languages, the preferred first; null if there is none.
+/// Regional forms of a language match if they use the same script.
 ///
 ///     {"de-AT"}         -> de
 ///     {"pt-PT"}         -> pt-BR
@@ -33,7 +33,7 @@ std::span<const TextTable> textTables();
 ///     {"zh-TW"}         -> null
 const TextTable* preferredTable(const QStringList& languages);
 
-/// The table for the person who uses the desktop; null where there is none.
+/// The table for the desktop's languages; null if there is none.
 const TextTable* desktopsTable();
 
 }  // namespace launcher

@@ -12,7 +12,7 @@ namespace {
 
 using Item = std::function<void()>;
 
-/// The event loop's queue would go on inside an item that shows an alert, hence one of our own.
+/// Has a queue of its own: the event loop's would run further items while one shows an alert.
 class MainQueue : public WorkQueue, private QObject {
  public:
   void add(Item item) override {

@@ -4,8 +4,7 @@
 
 namespace launcher {
 
-/// Runs each item at once on a thread of its own. Items that still run when the queue is destroyed
-/// go on.
+/// Runs each item at once on its own thread. Destroying the queue does not stop running items.
 class BackgroundQueue : public WorkQueue {
  public:
   void add(std::function<void()> item) override;

@@ -2,14 +2,14 @@
 
 #import <AppKit/AppKit.h>
 
-/// The cell of a field with a border of its own: one line of text that keeps clear of the border
-/// and stands in the middle of the field's height. Used by the layout resource.
+/// The cell of a field that draws its own border: one line of text, clear of the border and centred
+/// vertically. The layout resource uses it.
 @interface FieldCell : NSTextFieldCell {
  @private
   NSRange _lastSelection;
 }
 
-/// What was selected when the field was last edited; nothing before that.
+/// The selection when the field was last edited; empty before that.
 - (NSRange)lastSelection;
 
 @end

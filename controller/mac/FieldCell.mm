@@ -11,7 +11,7 @@ CGFloat lineHeight(NSFont* font) {
   return std::ceil([font ascender] - [font descender] + [font leading]);
 }
 
-/// Where the text goes, be it drawn or edited.
+/// The place of the text, both for drawing and for editing.
 NSRect lineOf(NSRect frame, NSFont* font) {
   const CGFloat height = std::min(lineHeight(font), frame.size.height);
   const CGFloat above = std::floor((frame.size.height - height) / 2);

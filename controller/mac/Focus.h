@@ -4,12 +4,11 @@
 
 namespace launcher {
 
-/// Ends the editing of whatever has the focus in a window, and keeps its text. Nothing has the
-/// focus afterwards.
+/// Ends editing in a window and keeps the edited text. No control has the focus afterwards.
 void takeFocus(NSWindow* window);
 
-/// Gives the focus of the field's window to the field, with the selection that it had, where
-/// nothing else has it.
+/// Gives the field the focus and its last selection, unless another control of the window has the
+/// focus.
 void returnFocus(NSTextField* field);
 
 }  // namespace launcher

@@ -12,7 +12,7 @@ class OperationWorkQueue : public WorkQueue {
   OperationWorkQueue(const OperationWorkQueue&) = delete;
   OperationWorkQueue& operator=(const OperationWorkQueue&) = delete;
 
-  /// What the item holds is let go of as soon as it has run, not when the platform drops the block.
+  /// Destroys the item as soon as it has run, not when the platform releases the block.
   void add(std::function<void()> item) override {
     const auto held = std::make_shared<std::function<void()>>(std::move(item));
     [queue_ addOperationWithBlock:^{

@@ -2,7 +2,7 @@
 
 #import <AppKit/AppKit.h>
 
-/// The cell of a text that stands in the middle of its height, however many lines it has. Used by
-/// the layout resource.
+/// The cell of a text that is centred vertically, with any number of lines. The layout resource
+/// uses it.
 @interface StatusCell : NSTextFieldCell
 @end

@@ -5,7 +5,7 @@
 
 @implementation StatusCell
 
-/// The height that the text takes up at a width.
+/// The height of the text at a width.
 - (CGFloat)heightForWidth:(CGFloat)width {
   const NSRect bounds =
       [[self attributedStringValue] boundingRectWithSize:NSMakeSize(width, CGFLOAT_MAX)

@@ -8,12 +8,12 @@ namespace launcher {
 class WindowLogic;
 }  // namespace launcher
 
-/// The controller of the launcher's window, as the toolkit and the layout resource reach it. It
-/// decides nothing: every message is handed on to the logic. Main thread only, but for the messages
-/// of the search and for `getIpAddressWithDomain:manualIP:`.
+/// The controller of the launcher's window for the toolkit and the layout resource. It decides
+/// nothing: it passes every message on to the logic. Main thread only, except the messages of the
+/// search and `getIpAddressWithDomain:manualIP:`.
 ///
-/// The outlets are connected by the layout resource. They are weak: one is not connected any more
-/// when its control has gone. Reading one that is not connected stops the program.
+/// The layout resource connects the outlets. They are weak: an outlet disconnects when its control
+/// is destroyed. Reading one that is not connected ends the program.
 @interface ViewController : NSViewController <NSTextFieldDelegate> {
  @private
   __weak NSButton* _launchButton;
@@ -36,8 +36,8 @@ class WindowLogic;
 /// Where slow work runs; not serial.
 - (NSOperationQueue*)backgroundQueue;
 
-/// The typed address if it is valid, else the host's first one, or nil. Blocks; not on the main
-/// thread.
+/// The typed address if it is valid, else the host's first address, or nil. Blocks; any thread but
+/// the main one.
 - (NSString*)getIpAddressWithDomain:(NSString*)domain manualIP:(NSString*)manualIP;
 
 - (IBAction)launchButtonClick:(id)sender;
@@ -51,14 +51,15 @@ class WindowLogic;
 /// The server location that a listing of attached images leads to, or nil.
 - (NSString*)processDMGDataWithPlist:(NSDictionary*)plist;
 
-/// Queues, for the main thread, writing the location into its field and an evaluation.
+/// Queues an item for the main thread that writes the location into its field and evaluates the
+/// state.
 - (void)updateSourceLocationWithSource:(NSString*)source;
 
 /// Queues the search for the server location on the background queue.
 - (void)searchDMGs;
 
-/// The server location that the attached disk images lead to, or nil. Blocks; not on the main
-/// thread.
+/// The server location that the attached disk images lead to, or nil. Blocks; any thread but the
+/// main one.
 - (NSString*)extractSourceFromDMG;
 
 @end

@@ -12,7 +12,7 @@
 
 namespace launcher {
 
-/// The logic of one window with what it stands on.
+/// The logic of one window, with the bridge and the queue that it uses.
 class WindowLogic {
  public:
   WindowLogic(ViewController* controller, NSOperationQueue* background)
@@ -54,8 +54,8 @@ using launcher::toNSStringOrNil;
 
 @implementation ViewController
 
-/// Before the base class's initialisation, which may already load the view. A function, since the
-/// messages that the class answers are those listed in its header and the base class's.
+/// Call this before the base class's initialiser, which may already load the view. It is a
+/// function, so that the class answers no message beyond its header and its base class.
 static void prepare(ViewController* self) {
   self->_backgroundQueue = [[NSOperationQueue alloc] init];
   self->_logic = std::make_unique<launcher::WindowLogic>(self, self->_backgroundQueue);
@@ -97,8 +97,7 @@ static void prepare(ViewController* self) {
   return _backgroundQueue;
 }
 
-/// Only the location field is given its colour here; the IP field's comes with the first
-/// evaluation.
+/// Sets only the location field's colour; the first evaluation sets the IP field's.
 - (void)viewDidLoad {
   [super viewDidLoad];
   launcher::giveLayer([self vorxLocation]);

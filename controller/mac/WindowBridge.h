@@ -6,7 +6,7 @@
 
 namespace launcher {
 
-/// The window of a `ViewController`, as the logic sees it. Belongs to the controller.
+/// The window of a `ViewController` as the logic sees it. The controller owns it.
 class WindowBridge : public LauncherWindow {
  public:
   explicit WindowBridge(ViewController* controller) : controller_(controller) {}

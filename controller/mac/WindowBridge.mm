@@ -24,13 +24,13 @@ NSColor* systemColour(AddressMark mark) {
   }
 }
 
-// Painting what is shown already would be the larger part of a keystroke's cost.
+// Set only what changes: repainting would be most of a keystroke's cost.
 
 void setEnabled(NSControl* control, Availability availability) {
   if ([control isEnabled] != isEnabled(availability)) [control setEnabled:isEnabled(availability)];
 }
 
-/// A screen reader says the text, after what it is saying.
+/// Lets a screen reader speak the text after it finishes its current one.
 void announce(NSString* text, NSWindow* window) {
   if (window == nil) return;
   NSAccessibilityPostNotificationWithUserInfo(
@@ -54,7 +54,7 @@ void setColour(CALayer* layer, CGColorRef colour) {
   if (!CGColorEqualToColor([layer backgroundColor], colour)) [layer setBackgroundColor:colour];
 }
 
-/// Holds a controller and lets go of it on the main thread, where its view belongs.
+/// Retains a controller and releases it on the main thread, as its view requires.
 class Hold {
  public:
   explicit Hold(ViewController* controller) : controller_([controller retain]) {}
@@ -118,7 +118,7 @@ void WindowBridge::showAlert(const Alert& alert) {
   [[panel window] setLevel:NSModalPanelWindowLevel];  // above the floating window
   [panel runModal];
   [panel release];
-  // The location field gets the focus when it is enabled.
+  // Nothing has the focus until the location field is enabled and gets it.
   takeFocus([[controller_ view] window]);
 }
 

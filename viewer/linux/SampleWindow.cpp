@@ -44,7 +44,7 @@ QLabel* icon(const QIcon& shown) {
   return made;
 }
 
-/// The icon, and beside it what this window is.
+/// The icon, and beside it a title and an explanation.
 QLayout* head(const QIcon& shown) {
   auto* texts = new QVBoxLayout;
   texts->addWidget(title());
@@ -56,7 +56,7 @@ QLayout* head(const QIcon& shown) {
   return made;
 }
 
-/// A text that can be selected, broken wherever the line ends.
+/// A text that can be selected and breaks anywhere at the line's end.
 QLabel* value(const std::string& text) {
   auto* made = label(QString::fromStdString(text));
   made->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

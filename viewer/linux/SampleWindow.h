@@ -6,7 +6,7 @@
 
 namespace viewer {
 
-/// The sample viewer's one window; the program ends with it.
+/// The sample viewer's only window. Closing it ends the program.
 class SampleWindow : public QWidget {
  public:
   explicit SampleWindow(const Arguments& arguments);

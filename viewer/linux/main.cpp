@@ -1,5 +1,5 @@
-// A sample viewer. It stands in for the remote-control viewer where none is at hand: it prints and
-// shows what the launcher gave it, and ends at SIGTERM, with its window or with its display.
+// A sample viewer, which stands in for the remote-control viewer. It prints and shows the
+// launcher's arguments. It ends on SIGTERM, when its window closes, or when it loses its display.
 
 #include <unistd.h>
 
@@ -18,7 +18,7 @@ void print(const viewer::Arguments& arguments) {
   std::fflush(stdout);
 }
 
-/// The toolkit aborts where it finds no display. A viewer without one waits for its signal.
+/// The toolkit aborts if it finds no display. A viewer without one waits for its signal.
 void waitWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
   if (type != QtFatalMsg) return;
   for (;;) pause();
@@ -30,7 +30,7 @@ int showWindow(char* program, const viewer::Arguments& arguments) {
   QApplication application(count, &program);
   qInstallMessageHandler(nullptr);
 
-  // The launcher's own.
+  // The launcher's icon.
   QApplication::setWindowIcon(
       QIcon(QString::fromStdString(arguments.resourceFolder + "/VorxLauncher.png")));
   viewer::SampleWindow window(arguments);

@@ -4,7 +4,7 @@
 
 #include "viewer/Arguments.h"
 
-/// The sample viewer's one window; the program ends with it.
+/// The sample viewer's only window. Closing it ends the program.
 @interface SampleWindow : NSObject <NSApplicationDelegate> {
  @private
   NSWindow* _window;

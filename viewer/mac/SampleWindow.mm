@@ -85,7 +85,7 @@ NSString* textOf(const std::string& bytes) {
              below:top];
 }
 
-/// The icon, and beside it what this window is.
+/// The icon, and beside it a title and an explanation.
 - (void)addHeadBelow:(CGFloat)top {
   NSView* content = [_window contentView];
   [content addSubview:iconView(NSMakeRect(margin, top - iconSize, iconSize, iconSize))];
@@ -99,7 +99,7 @@ NSString* textOf(const std::string& bytes) {
                             [NSFont systemFontOfSize:11])];
 }
 
-/// A value that can be selected, with its caption on the left.
+/// A value that can be selected, and its caption on the left.
 - (void)addCaption:(NSString*)caption
              value:(NSString*)value
             height:(CGFloat)valueHeight

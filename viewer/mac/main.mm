@@ -1,5 +1,5 @@
-// A sample viewer. It stands in for the remote-control viewer where none is at hand: it prints and
-// shows what the launcher gave it, and ends at SIGTERM or with its window.
+// A sample viewer, which stands in for the remote-control viewer. It prints and shows the
+// launcher's arguments. It ends on SIGTERM or when its window closes.
 
 #import <AppKit/AppKit.h>
 
@@ -17,7 +17,7 @@ void print(const viewer::Arguments& arguments) {
   std::fflush(stdout);
 }
 
-/// Shows the launcher's icon, where there is one.
+/// Shows the launcher's icon, if there is one.
 void takeIcon(NSApplication* application, const viewer::Arguments& arguments) {
   const std::string path = arguments.resourceFolder + "/VorxLauncher.icns";
   NSString* file = [NSString stringWithUTF8String:path.c_str()];
