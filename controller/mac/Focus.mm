@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#import "controller/mac/FieldCell.h"
+#import "controller/mac/TextCells.h"
 
 namespace launcher {
 namespace {

@@ -28,7 +28,7 @@ void takeIcon(NSApplication* application, const viewer::Arguments& arguments) {
 void showWindow(const viewer::Arguments& arguments) {
   @autoreleasepool {
     NSApplication* application = [NSApplication sharedApplication];
-    // A program outside of a bundle has no place among the applications unless it asks for one.
+    // A program outside a bundle gets no Dock icon and no menu unless it asks for them.
     [application setActivationPolicy:NSApplicationActivationPolicyRegular];
     takeIcon(application, arguments);
     SampleWindow* window = [[[SampleWindow alloc] initWithArguments:arguments] autorelease];

@@ -3,8 +3,7 @@
 #include <gtest/gtest.h>
 #import <objc/runtime.h>
 
-#import "controller/mac/FieldCell.h"
-#import "controller/mac/StatusCell.h"
+#import "controller/mac/TextCells.h"
 #import "tests/window/mac/Stage.h"
 #import "tests/window/mac/Windows.h"
 

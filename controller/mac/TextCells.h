@@ -13,3 +13,8 @@
 - (NSRange)lastSelection;
 
 @end
+
+/// The cell of a text that is centred vertically, with any number of lines. The layout resource
+/// uses it.
+@interface StatusCell : NSTextFieldCell
+@end

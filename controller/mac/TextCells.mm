@@ -1,4 +1,4 @@
-#import "controller/mac/FieldCell.h"
+#import "controller/mac/TextCells.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,12 +11,18 @@ CGFloat lineHeight(NSFont* font) {
   return std::ceil([font ascender] - [font descender] + [font leading]);
 }
 
-/// The place of the text, both for drawing and for editing.
-NSRect lineOf(NSRect frame, NSFont* font) {
-  const CGFloat height = std::min(lineHeight(font), frame.size.height);
+/// The middle of a frame, as high as its content if that fits.
+NSRect centred(NSRect frame, CGFloat contentHeight) {
+  const CGFloat height = std::min(contentHeight, frame.size.height);
   const CGFloat above = std::floor((frame.size.height - height) / 2);
-  return NSMakeRect(frame.origin.x + besideText, frame.origin.y + above,
-                    std::max(frame.size.width - 2 * besideText, 0.0), height);
+  return NSMakeRect(frame.origin.x, frame.origin.y + above, frame.size.width, height);
+}
+
+/// The place of a field's text, both for drawing and for editing.
+NSRect lineOf(NSRect frame, NSFont* font) {
+  const NSRect line = centred(frame, lineHeight(font));
+  return NSMakeRect(line.origin.x + besideText, line.origin.y,
+                    std::max(line.size.width - 2 * besideText, 0.0), line.size.height);
 }
 
 }  // namespace
@@ -60,6 +66,23 @@ NSRect lineOf(NSRect frame, NSFont* font) {
 
 - (NSRange)lastSelection {
   return _lastSelection;
+}
+
+@end
+
+@implementation StatusCell
+
+/// The height of the text at a width.
+- (CGFloat)heightForWidth:(CGFloat)width {
+  const NSRect bounds =
+      [[self attributedStringValue] boundingRectWithSize:NSMakeSize(width, CGFLOAT_MAX)
+                                                 options:NSStringDrawingUsesLineFragmentOrigin];
+  return std::ceil(bounds.size.height);
+}
+
+- (void)drawInteriorWithFrame:(NSRect)frame inView:(NSView*)view {
+  const CGFloat height = [self heightForWidth:[self titleRectForBounds:frame].size.width];
+  [super drawInteriorWithFrame:centred(frame, height) inView:view];
 }
 
 @end
