@@ -1,7 +1,7 @@
-# The programs inside the bundle, in the folder ${bundle_programs}: the viewer, and what a platform
-# adds with bundle_program.
+# The programs inside the bundle, in the folder ${bundle_programs}: the viewer, and those that a
+# platform adds with bundle_program.
 
-# Puts an executable there under the name that is looked for.
+# Puts an executable there under the name that the launcher looks for.
 function(bundle_program name file)
   set(inside "${bundle_programs}/${name}")
   add_custom_command(OUTPUT "${inside}" DEPENDS "${file}"

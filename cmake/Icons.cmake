@@ -1,4 +1,4 @@
-# The application's icon, drawn from resources/icon.svg when the build needs it.
+# Draws the application's icon from resources/icon.svg when the build needs it.
 #
 #   launcher_icon(FILE)   a rule that makes FILE, a path that ends in .png or .icns
 

@@ -1,6 +1,6 @@
-# The target `analysis`: LLVM's static analyzer on every file of macOS's own, for each architecture. It
-# follows reference counts, null and Cocoa's rules through each function. A finding is an error. A file
-# is looked at again when it or one of its headers has changed.
+# The target `analysis` runs LLVM's static analyzer on every macOS source, for each architecture. It
+# checks reference counts, null and Cocoa's rules in each function. A finding is an error. A file is
+# analysed again when it or one of its headers changes.
 
 set(MAC_CHECKERS nullability,osx)
 

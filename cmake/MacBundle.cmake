@@ -1,4 +1,4 @@
-# Lays the application out as macOS expects it: VorxLauncher.app with all of it in Contents/.
+# Lays out the application as macOS expects it: VorxLauncher.app with everything in Contents/.
 
 include(Icons)
 
@@ -20,7 +20,7 @@ set(icon "${CMAKE_CURRENT_BINARY_DIR}/VorxLauncher.icns")
 launcher_icon("${icon}")
 bundle_files(Resources "${icon}")
 
-# Layout resources are compiled by Xcode's own tool, which no other system has.
+# Only Xcode's tool compiles layout resources, and no other system has it.
 find_program(IBTOOL ibtool)
 if(NOT IBTOOL AND NOT CMAKE_CROSSCOMPILING)
   message(FATAL_ERROR "ibtool is missing; it comes with Xcode, not with the command-line tools alone")

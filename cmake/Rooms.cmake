@@ -1,5 +1,5 @@
-# A room is a folder with a library of its own, launcher_NAME. What it asks of the system is answered
-# in the folder's mac/ or linux/. Nothing else chooses between the platforms.
+# A room is a folder with its own library, launcher_NAME. Its mac/ or linux/ holds the code of one
+# platform. Nothing else chooses between the platforms.
 
 if(APPLE)
   set(PLATFORM mac)
@@ -7,12 +7,12 @@ else()
   set(PLATFORM linux)
 endif()
 
-# Makes a library of this folder's sources and of what lies in its platform's folder.
+# Makes a library of the sources in this folder and in its platform's folder.
 #
 #   launcher_room(NAME [USES ROOM...])
 #
-# A platform's folder that has a CMakeLists.txt says itself what becomes of its sources, as a rule
-# with launcher_sources(NAME) and the libraries that they need.
+# If the platform's folder has a CMakeLists.txt, that file adds the sources itself, usually with
+# launcher_sources(NAME) and the libraries that they need.
 function(launcher_room name)
   cmake_parse_arguments(PARSE_ARGV 1 room "" "" "USES")
   file(GLOB sources CONFIGURE_DEPENDS *.cpp *.mm)
@@ -28,7 +28,7 @@ function(launcher_room name)
   endif()
 endfunction()
 
-# Adds a folder's sources to a room's library; without a folder, those of this one.
+# Adds a folder's sources to a room's library; without a folder, this folder's.
 #
 #   launcher_sources(NAME [FOLDER/...])
 function(launcher_sources name)
@@ -42,11 +42,11 @@ function(launcher_sources name)
   endforeach()
 endfunction()
 
-# The tests of a folder that are for this platform: all but the other one's.
+# Finds a folder's tests for this platform: all but the other platform's.
 #
 #   launcher_tests(VARIABLE FOLDER)
 function(launcher_tests variable folder)
-  # Relative, since a folder above the project may be called like a platform.
+  # Match relative paths: a folder above the project may have a platform's name.
   file(GLOB_RECURSE tests CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}"
     ${folder}/*.cpp ${folder}/*.mm)
   set(others linux mac)

@@ -1,15 +1,15 @@
-# A suite is a label of CTest's: ctest -L '^unit$' brings what the suite needs up to date and runs it.
+# A suite is a CTest label: ctest -L '^unit$' builds what the suite needs and runs it.
 #
-#   launcher_test(SUITE [NAME name]   what tells it from the suite's other tests
-#                 [APART | DISPLAY]   apart from the machine's processes; with a display there, too
-#                 [BY_NAME]           takes minutes, so only where the suite is named (ctest -C by-name)
-#                 [BUILDS target...]  what it needs of this build
-#                 [PRESET preset]     whose build it needs, with the targets that the preset names
+#   launcher_test(SUITE [NAME name]   tells it from the suite's other tests
+#                 [APART | DISPLAY]   apart from the machine's processes; DISPLAY adds a display
+#                 [BY_NAME]           takes minutes: only if the suite is named (ctest -C by-name)
+#                 [BUILDS target...]  the targets that it needs in this build
+#                 [PRESET preset]     needs this preset's build with the targets that it names
 #                 [ENVIRONMENT variable=value...]
 #                 COMMAND command...)
 #
-# A program of GoogleTest or pytest leaves a record in build/results, which tests/runner/summary.py
-# counts test by test.
+# GoogleTest and pytest write a record into build/results, from which tests/runner/summary.py counts
+# each test.
 function(launcher_test suite)
   cmake_parse_arguments(PARSE_ARGV 1 test
     "APART;DISPLAY;BY_NAME" "NAME;PRESET" "BUILDS;ENVIRONMENT;COMMAND")
@@ -44,7 +44,7 @@ function(launcher_test suite)
     ENVIRONMENT "GTEST_OUTPUT=xml:${record};GTEST_BRIEF=1;PYTEST_ADDOPTS=--junitxml=${record};${test_ENVIRONMENT}")
 endfunction()
 
-# A test that brings something up to date; those that need it run after it. One at a time takes all the
+# A test that builds something; the tests that need it run after it. One at a time takes all the
 # processors.
 function(launcher_build_step name)
   if(NOT TEST build.${name})
@@ -54,8 +54,8 @@ function(launcher_build_step name)
   endif()
 endfunction()
 
-# A suite, or a part of one, that is a folder of Python tests. PATTERN tells the files, *_test.py
-# unless told otherwise; the rest is as above.
+# A suite, or part of one, that is a folder of Python tests. PATTERN names the files (default:
+# *_test.py); the rest is as above.
 find_program(PYTEST NAMES pytest-3 pytest)
 function(launcher_python_test suite folder)
   cmake_parse_arguments(PARSE_ARGV 2 test "" "PATTERN" "")

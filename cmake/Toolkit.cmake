@@ -1,5 +1,5 @@
-# launcher_toolkit is the window toolkit: AppKit on macOS, Qt on Linux. Without one on the machine
-# there is no such target; the logic and its tests are built all the same.
+# launcher_toolkit is the window toolkit: AppKit on macOS, Qt on Linux. Without it on the machine
+# there is no such target, but the logic and its tests still build.
 
 if(APPLE)
   find_library(APPKIT_FRAMEWORK AppKit)

@@ -1,4 +1,4 @@
-# The warnings that our own code is compiled with.
+# The warnings for our own code.
 
 option(LAUNCHER_WARNINGS_AS_ERRORS "Make a warning in our own code an error" OFF)
 
@@ -8,14 +8,15 @@ target_compile_options(launcher_warnings INTERFACE
   -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Wnull-dereference
   -Wreserved-identifier $<$<BOOL:${LAUNCHER_WARNINGS_AS_ERRORS}>:-Werror>)
 
-# A designated initialiser names what differs from the defaults. Newer compilers warn of that.
+# Our designated initialisers name only what differs from the defaults. Newer compilers warn of
+# that.
 include(CheckCXXCompilerFlag)
 check_cxx_compiler_flag(-Wmissing-designated-field-initializers WARNS_OF_DEFAULTS)
 if(WARNS_OF_DEFAULTS)
   target_compile_options(launcher_warnings INTERFACE -Wno-missing-designated-field-initializers)
 endif()
 
-# The cross-build's declarations are ours and say exactly what we believe of each call.
+# The cross-build's declarations are ours, so their annotations are exactly what we want checked.
 if(APPLE AND CMAKE_CROSSCOMPILING)
   target_compile_options(launcher_warnings INTERFACE
     -Wnullable-to-nonnull-conversion -Wunguarded-availability)

@@ -1,4 +1,4 @@
-// The least that a program of this toolkit can be: one window with one field.
+// The smallest program of this toolkit: one window with one field.
 
 #include <QApplication>
 #include <QLineEdit>

@@ -1,5 +1,5 @@
-// Processes that only sleep, to fill the process table: crowd COUNT. Says "ready" once they are
-// there; they go when it is ended.
+// Fills the process table with processes that only sleep: crowd COUNT. Prints "ready" once they
+// run; they end with it.
 
 #include <sys/prctl.h>
 #include <sys/wait.h>

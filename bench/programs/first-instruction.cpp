@@ -1,6 +1,6 @@
-// Stands in for the viewer: writes when it began, in nanoseconds of the monotonic clock, and its
-// number, into the file "begun" in the folder that it is given as a viewer is, with -r, and sleeps
-// until it is ended.
+// Stands in for the viewer. Writes its start time, in nanoseconds of the monotonic clock, and its
+// process identifier into the file "begun" in the folder that follows -r. Then sleeps until it is
+// ended.
 
 #include <unistd.h>
 

@@ -27,7 +27,7 @@ def sizes():
             for what, those in files.items()]
 
 
-# Every group's figures, given a home for the programs.
+# Every group's figures, taken in the given home folder.
 GROUPS = {
     "start": [starts.warm],
     "image": [starts.from_image],

@@ -16,11 +16,11 @@ from table import FLOOR, OURS, Figure, Unavailable, at_most_above
 from windows import APPLICATION, BARE_WINDOW, BUILD, PROGRAM, session
 
 PRESSES, RELAUNCHES, SEARCHES = 12, 5, 4
-PAUSE = 1.0  # before a search, and between asking a viewer to stop and looking whether it has
+PAUSE = 1.0  # before a search, and before looking whether a viewer has stopped
 
 
 class Viewers:
-    """What the viewers of a bundle write when they begin."""
+    """The times that a bundle's viewers write when they start."""
 
     def __init__(self, bundle):
         self.resources = bundle / "Resources"
@@ -28,7 +28,7 @@ class Viewers:
         self._seen = 0
 
     def next(self):
-        """When the next one began, and its process."""
+        """The next viewer's start time and process."""
         def lines():
             found = self._record.read_text().splitlines() if self._record.exists() else []
             return found[self._seen:]
@@ -38,7 +38,7 @@ class Viewers:
         return int(begun) / 1e9, int(process)
 
     def spawn(self):
-        """The floor: starts one without the launcher; how long that took."""
+        """The floor: starts a viewer without the launcher and returns the time that it took."""
         program = str(self.resources / "bin/vexlink")
         asked = time.monotonic()
         process = os.posix_spawn(program, [program, "-l", "server.example", "-i", "127.0.0.1", "-r",
@@ -79,7 +79,7 @@ def presses(home):
 
 
 def run_of(tool):
-    """How long a program runs, its output read."""
+    """The time that a program runs while its output is read."""
     begun = time.monotonic()
     subprocess.run([tool, "info", "-plist"], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, check=True)
     return time.monotonic() - begun

@@ -1,4 +1,4 @@
-"""The small things, by Google Benchmark, and what depends on how many processes there are."""
+"""The small benchmarks, by Google Benchmark, and those that depend on the number of processes."""
 
 import contextlib
 import json
@@ -17,8 +17,8 @@ SCALE = {"ns": 1, "µs": 1e3, "ms": 1e6}
 
 
 def measured(group, unit, clock="cpu_time"):
-    """Of the measurements named GROUP/CONTESTANT/CASE: the values of the rounds, by contestant and
-    case."""
+    """The values of each round, by contestant and case, of the benchmarks named
+    GROUP/CONTESTANT/CASE."""
     done = subprocess.run([BUILD / "bench/bench-small", f"--benchmark_filter=^{group}/",
                            "--benchmark_min_time=0.03", f"--benchmark_repetitions={ROUNDS}",
                            "--benchmark_enable_random_interleaving=true", "--benchmark_format=json"],
@@ -63,7 +63,7 @@ def property_lists():
 
 @contextlib.contextmanager
 def crowd(count):
-    """So many processes, in all, that do nothing."""
+    """Fills the machine up to `count` processes that do nothing."""
     others = sum(name.isdigit() for name in os.listdir("/proc"))
     sleepers = subprocess.Popen([BUILD / "bench/crowd", str(max(count - others, 0))],
                                 stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, text=True)
@@ -85,14 +85,14 @@ def run_of(*command):
 
 
 def keystrokes(program, home):
-    """Milliseconds from a key to what it changes, with a whole location in the field."""
+    """Milliseconds from a key to the painted change, with a whole location in the field."""
     with session(program, home=home) as (running, _):
         running.type("https://server.example/path")
         return [1e3 * running.key(key) for key in KEYS]
 
 
 def among(count, home):
-    """A keystroke and a process search, among so many processes."""
+    """A keystroke and a process search among the given number of processes."""
     with crowd(count):
         ours, bare = ([value for _ in range(3) for value in keystrokes(program, home)]
                       for program in (APPLICATION / PROGRAM, BARE_WINDOW))

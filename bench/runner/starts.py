@@ -1,4 +1,4 @@
-"""What a person waits for first: the start, warm and cold, the memory that it takes, and the end."""
+"""The start, warm and cold, its memory, and the end."""
 
 import os
 import pathlib
@@ -22,7 +22,7 @@ DROP_CACHES = pathlib.Path("/proc/sys/vm/drop_caches")
 
 
 def home_without_effects(folder):
-    """A home in which no peer's window fades in, nor asks for news."""
+    """A home folder in which no peer's window fades in or shows news."""
     for file, text in [(".config/gtk-3.0/settings.ini", "[Settings]\ngtk-enable-animations=0\n"),
                        (".config/remmina/remmina.pref", "[remmina_pref]\nperiodic_news_permitted=false\n")]:
         (folder / file).parent.mkdir(parents=True)
@@ -31,8 +31,8 @@ def home_without_effects(folder):
 
 
 def turns(programs, rounds, measure):
-    """Lets programs take turns: their values by name, and why some have none. One that fails drops
-    out."""
+    """Runs programs in turns. Gives their values by name, and the reasons of those that failed and
+    dropped out."""
     values, missing = {}, {}
     for _ in range(rounds):
         for name, command in programs.items():

@@ -1,4 +1,4 @@
-"""Figures, what is aimed at, and the one table of them."""
+"""Figures, their aims, and the one table of them."""
 
 import dataclasses
 import statistics
@@ -13,8 +13,8 @@ class Unavailable(Exception):
 
 @dataclasses.dataclass
 class Figure:
-    """Values by name, the n-th of each from the n-th round; what is aimed at, a text and what tells of
-    the figure whether it is met; and reasons why a peer has no values."""
+    """Values by name, the n-th of each from the n-th round; the aim, as a text and a check; and the
+    reasons why a peer has no values."""
 
     what: str
     unit: str
@@ -26,12 +26,12 @@ class Figure:
         return statistics.median(self.values[name])
 
     def ratios(self):
-        """How many times the floor ours is, round by round."""
+        """Our value as a multiple of the floor's, round by round."""
         return [mine / its for mine, its in zip(self.values[OURS], self.values.get(FLOOR, []))]
 
 
 def attempted(what, take):
-    """The figures that take() gives; where it fails, one that says why."""
+    """The figures of take(), or one with the reason if it fails."""
     try:
         return take()
     except Exception as reason:
@@ -62,7 +62,7 @@ def ahead_of(*names, factor=1):
 
 
 def number(value):
-    """Three digits that matter: 0.0123, 1.23, 12.3, 123, 12,300."""
+    """Three significant digits: 0.0123, 1.23, 12.3, 123, 12,300."""
     return f"{value:,.0f}" if value >= 100 else f"{value:.3g}"
 
 
@@ -70,11 +70,11 @@ def verdict(aim, figure):
     try:
         return "yes" if aim[1](figure) else "no"
     except (KeyError, statistics.StatisticsError):
-        return "?"  # what it is held against is missing
+        return "?"  # the floor or the peers are missing
 
 
 def spread(values):
-    """Half of the range in which the middle half of the rounds lies, as a share of the median."""
+    """Half the interquartile range of the rounds, as a share of the median."""
     if len(values) < 2:
         return "–"
     low, middle, high = statistics.quantiles(values, n=4, method="inclusive")
@@ -102,6 +102,6 @@ def markdown(figures):
 
 
 def put_into(document, text):
-    """The document with a text between its two marks."""
+    """Puts a text between the document's two marks."""
     before, rest = document.split(BEGIN)
     return f"{before}{BEGIN}\n\n{text}\n\n{END}{rest.split(END)[1]}"

@@ -1,6 +1,6 @@
 """Programs with a window, driven and timed on an X display. Times are seconds of the monotonic clock.
 
-Painted means that for a while nothing more was painted; what is as narrow as a caret does not count.
+A window counts as painted when nothing more is painted for a while, unless as narrow as a caret.
 """
 
 import contextlib
@@ -20,7 +20,7 @@ from table import Unavailable
 
 QUIET = 0.25  # a caret blinks more slowly
 PATIENCE = 30
-CARET_WIDTH = 16  # with what a toolkit paints around it
+CARET_WIDTH = 16  # including what a toolkit paints around it
 BUILD = pathlib.Path(__file__).resolve().parents[2] / "build"
 APPLICATION = BUILD / "VorxLauncher.app"
 PROGRAM = "VorxLauncher"
@@ -34,7 +34,7 @@ class Session:
         self._display = display.Display()
         self._display.set_error_handler(lambda *_: None)  # a window that has gone meanwhile
         self._root = self._display.screen().root
-        self._display.damage_query_version()  # without which the server answers nothing
+        self._display.damage_query_version()  # the server answers nothing without it
         self._root.damage_create(damage.DamageReportRawRectangles)
         self._display.sync()
         self._paintings = []
@@ -47,7 +47,7 @@ class Session:
         self._ended = os.pidfd_open(self._process)
 
     def await_painting(self):
-        """When the window, as soon as it is there, was painted last."""
+        """Waits for the window and gives the time when it was last painted."""
         self._await(self._last_painting)
         return self._last_painting()
 
@@ -56,7 +56,7 @@ class Session:
         return self.await_painting()
 
     def press(self, key):
-        """Presses a key, as X names it, and tells when."""
+        """Presses a key, given by X's name for it, and returns the time."""
         code = self._display.keysym_to_keycode(XK.string_to_keysym(key))
         self._paintings.clear()
         pressed = time.monotonic()
@@ -66,7 +66,7 @@ class Session:
         return pressed
 
     def key(self, name):
-        """How long after a key was pressed the last of what it changes was painted."""
+        """The time from pressing a key to the last painting that it causes."""
         pressed = self.press(name)
         return self.await_painting() - pressed
 
@@ -79,7 +79,7 @@ class Session:
         return next(int(line.split()[1]) / 1024 for line in lines if line.startswith("Rss:"))
 
     def close(self):
-        """Closes the window as a window manager does; how long the process went on."""
+        """Closes the window as a window manager does. Returns the time until the process ended."""
         atom = self._display.intern_atom
         message = ClientMessage(window=self._window, client_type=atom("WM_PROTOCOLS"),
                                 data=(32, [atom("WM_DELETE_WINDOW"), X.CurrentTime, 0, 0, 0]))
@@ -135,7 +135,7 @@ class Session:
         return None
 
     def _managed_window(self):
-        """The first window that is under the window manager's care and can be closed."""
+        """The first window that the window manager manages and that can be closed."""
         windows = self._root.get_full_property(self._display.intern_atom("_NET_CLIENT_LIST"), X.AnyPropertyType)
         for identifier in windows.value if windows else []:
             window = self._display.create_resource_object("window", identifier)
@@ -148,7 +148,7 @@ class Session:
 
 @contextlib.contextmanager
 def session(*command, home):
-    """A program from its start to its end: the session, and when its window was painted."""
+    """Runs a program during the block. Gives the session and the time of its first painting."""
     try:
         running = Session(command, home)
     except FileNotFoundError as missing:

@@ -1,5 +1,5 @@
 // The link check of a typed location, the links of a long text, and texts made to take long. The
-// floor is a look at every byte, the peer a Markdown reader's autolinks.
+// floor reads every byte; the peer is a Markdown reader's autolinks.
 
 #include <benchmark/benchmark.h>
 #include <cmark-gfm-core-extensions.h>
@@ -18,7 +18,7 @@ namespace {
 
 const std::string kLocation = "https://server.example/path";
 
-/// A beginning, and a piece that follows it again and again.
+/// A beginning, and a piece that is repeated after it.
 std::string repeated(const std::string& piece, std::size_t size, std::string text = "") {
   while (text.size() < size) text += piece;
   return text;

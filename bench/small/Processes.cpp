@@ -77,7 +77,7 @@ void library(benchmark::State& state) {
 }
 BENCHMARK(library)->Name("search/libproc2");
 
-/// As at a keystroke: what was in the caches has been pushed out meanwhile.
+/// Empties the caches, as other work does before a keystroke.
 void afterPause(benchmark::State& state) {
   while (state.KeepRunning()) {
     std::this_thread::sleep_for(std::chrono::milliseconds(250));

@@ -1,5 +1,5 @@
-// Reading the listing of attached images. The floor is the XML alone, without a value made of it;
-// the peer is a C library for property lists.
+// Reading the listing of attached images. The floor parses the XML and makes no value; the peer is
+// a C library for property lists.
 
 #include <benchmark/benchmark.h>
 #include <expat.h>
@@ -13,7 +13,7 @@
 namespace launcher {
 namespace {
 
-/// An image of a listing as the macOS tool writes it; a "#" stands for the image's number.
+/// One image in a listing of the macOS tool; "#" stands for the image's number.
 constexpr std::string_view kImage = R"(<dict>
 <key>autodiskmount</key><true/>
 <key>blockcount</key><integer>204800</integer>

@@ -1,4 +1,4 @@
-# Sourced by every script, after it has gone to the project's root: how the scripts speak.
+# Sourced by every script in the project's root: the scripts' messages.
 
 say() { printf '%s\n' "$*"; }
 
@@ -7,7 +7,7 @@ fail() {
   exit 1
 }
 
-# Prints the comment that a script opens with.
+# Prints the script's opening comment.
 help() { sed -n '2,/^[^#]/s/^# \{0,1\}//p' "script/$(basename "$0")"; }
 
 case " $* " in

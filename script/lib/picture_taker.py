@@ -1,6 +1,6 @@
-"""Drives the launcher through all it can show in a language: picture_taker.py LANGUAGE FOLDER
+"""Takes a picture of each of the launcher's states in a language: picture_taker.py LANGUAGE FOLDER
 
-Run apart from the machine: it says what this machine calls some addresses, and attaches an image.
+Run it apart from the machine: it changes the machine's host names and attaches an image.
 """
 
 import contextlib
@@ -24,15 +24,15 @@ VIEWER = APPLICATION / "Resources/bin/vexlink"
 LOCATION = "https://vorx.berlin.example"
 UNKNOWN_LOCATION = "https://vorx.hamburg.example"
 
-# So many pictures alike, taken one right after the other, show a window that is done.
+# This many equal pictures in a row mean that the window has finished painting.
 STILL = 3
 
-# Where a desktop names a locale in another way than a folder of resources/.
+# The locales whose names differ from the folders in resources/.
 LOCALES = {"zh-Hans": "zh_CN"}
 
 
 def know_location():
-    """Lets this machine, as far as it is apart, find the location's address without asking anybody."""
+    """Gives this machine, as far as it is apart, the location's address without a server."""
     with tempfile.NamedTemporaryFile("w", prefix="hosts-", dir=BUILD) as hosts:
         print("127.0.0.1 localhost", LOCATION.removeprefix("https://"), file=hosts, flush=True)
         subprocess.run(["mount", "--bind", hosts.name, "/etc/hosts"], check=True)
@@ -49,7 +49,7 @@ def running(*command, **options):
 
 
 def still_picture(window):
-    """A window's picture, once it keeps for a while. The caret blinks more slowly."""
+    """A window's picture, once it stays the same for a while. The caret blinks more slowly."""
     pictures = []
 
     def still():
@@ -61,7 +61,7 @@ def still_picture(window):
 
 
 def save(picture, file):
-    """Writes a small file, with a line around the window, which has no frame here."""
+    """Writes a small file, with a border, since the window has no frame here."""
     subprocess.run(["convert", "ppm:-", "-bordercolor", "#c4c4c4", "-border", "1", "+dither",
                     "-colors", "256", "-strip", "-define", "png:compression-level=9",
                     "-define", "png:exclude-chunk=date,time", f"PNG8:{file}"],
@@ -108,7 +108,7 @@ def take_typed(language, folder):
         press("ctrl+a", "BackSpace")
         launcher.wait_until(lambda: launcher.address.text == "", "the address is empty")
 
-        # A viewer of somebody else is waited for, which keeps what the status line says meanwhile.
+        # The launcher waits for a viewer that it did not start. Meanwhile the status line stays.
         with running(VIEWER, "-l", "", "-i", "", "-r", "") as other:
             wait_until(lambda: windows_of(other.pid), "the other viewer is shown")
             launcher.click_on(launcher.button)

@@ -28,8 +28,8 @@ def say(text):
 
 
 def unwind_on_signals():
-    """Lets the signals that end a program unwind it, so that everything is put away; a second one
-    does not disturb that."""
+    """Turns the signals that end a program into an exception, so that everything is cleaned up.
+    Ignores further signals."""
     def unwind(number, _):
         for each in SIGNALS:
             signal.signal(each, signal.SIG_IGN)
@@ -40,8 +40,8 @@ def unwind_on_signals():
 
 
 def program_to_start(stack):
-    """The program in the volume of the downloaded image, or the one in the build folder where images
-    cannot be attached; and whether it is in an image."""
+    """The program in the downloaded image's volume, or the one in the build folder if images cannot
+    be attached; and whether it is in an image."""
     address = stack.enter_context(served(IMAGE))
     folder = stack.enter_context(tempfile.TemporaryDirectory(prefix="download-", dir=BUILD))
     file = download(address, folder)
@@ -57,7 +57,7 @@ def program_to_start(stack):
 
 @contextlib.contextmanager
 def started(program):
-    """The running launcher, asked to quit when the block ends."""
+    """The running launcher, which is asked to quit when the block ends."""
     launcher = subprocess.Popen([str(program)], stdin=subprocess.DEVNULL, start_new_session=True)
     try:
         yield launcher
@@ -68,8 +68,8 @@ def started(program):
 
 
 def take_picture(launcher, in_image, file):
-    """Takes it once the window is shown, and the location found where there is one."""
-    from desktop.screen_reader import FIELD, program  # asks for the bus, which is there by now
+    """Takes a picture once the window is shown and has found its location, if there is one."""
+    from desktop.screen_reader import FIELD, program  # this needs the bus, which runs by now
 
     def ready():
         if launcher.poll() is not None:

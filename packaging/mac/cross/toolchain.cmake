@@ -1,11 +1,11 @@
-# Builds for macOS 11 on Linux with LLVM's tools and the sysroot that make-sysroot puts together.
+# Builds for macOS 11 on Linux with LLVM's tools and make-sysroot's folder.
 
 set(CMAKE_SYSTEM_NAME Darwin)
 set(CMAKE_SYSTEM_VERSION 20.0)
 set(CMAKE_OSX_ARCHITECTURES arm64 x86_64)
 set(CMAKE_OSX_DEPLOYMENT_TARGET 11.0)
 
-# CMake's own small test projects read this file too; they get the sysroot that exists by then.
+# CMake's own test projects read this file too and get the sysroot that exists by then.
 set(MACOS_SYSROOT "${CMAKE_BINARY_DIR}/sysroot" CACHE PATH "What macOS offers to a build")
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES MACOS_SYSROOT)
 get_property(within_try_compile GLOBAL PROPERTY IN_TRY_COMPILE)
@@ -18,7 +18,8 @@ set(CMAKE_OSX_SYSROOT "${MACOS_SYSROOT}")
 foreach(language C CXX)
   set(CMAKE_${language}_COMPILER_TARGET arm64-apple-macos11.0)
   set(CMAKE_${language}_FLAGS_INIT "-B${MACOS_SYSROOT}/bin")
-  # The plain archiver keeps objects of two architectures as they are, and lld cannot read those.
+  # The plain archiver does not split objects of two architectures, and lld cannot read such an
+  # archive.
   set(CMAKE_${language}_ARCHIVE_CREATE "llvm-libtool-darwin-19 -static -o <TARGET> <OBJECTS>")
   set(CMAKE_${language}_ARCHIVE_FINISH "")
 endforeach()

@@ -1,5 +1,4 @@
-# How make-image works on Linux. It brings its options as variables.
-# shellcheck shell=bash disable=SC2154
+# make-image's steps on Linux. Its options are variables. shellcheck shell=bash disable=SC2154
 
 for tool in xorriso 7zz python3; do
   command -v "$tool" >/dev/null || fail "$tool is missing; script/bootstrap installs it"
@@ -20,14 +19,15 @@ create_image() {
     >"$work/xorriso.log" 2>&1 || fail "could not make $image: $(tail -n 1 "$work/xorriso.log")"
 }
 
-# What was staged, a line each: mode, path. The volume keeps names in their decomposed form.
+# Lists the staged files, one line each: mode, path. The volume keeps names in their decomposed
+# form.
 staged_entries() {
   (cd "$work/volume" && find . -mindepth 1 -printf '%M %P\n') | python3 -c '
 import sys, unicodedata
 sys.stdout.write(unicodedata.normalize("NFD", sys.stdin.read()))' | sort
 }
 
-# The same of the image, whose paths begin with the volume's name.
+# Lists the image's files in the same form. Their paths begin with the volume's name.
 image_entries() {
   7zz l -slt -tHFS "$made" | awk '
     /^Path = / { path = substr($0, 8) }

@@ -1,21 +1,20 @@
-# How make-image works on macOS. It brings its options as variables.
-# shellcheck shell=bash disable=SC2154
+# make-image's steps on macOS. Its options are variables. shellcheck shell=bash disable=SC2154
 
 attached=''
 
-# Signatures refuse what a browser or the Finder has noted on a file.
+# Signing refuses files with attributes of a browser or the Finder.
 strip_attributes() {
   xattr -cr "$staged" || fail "could not strip the extended attributes of $staged"
 }
 
-# A signature of somebody carries a time stamp and is fit for notarisation.
+# A signature with an identity carries a time stamp and can be notarised.
 sign() {
   local stamp=--timestamp
   [ "$identity" != - ] || stamp=--timestamp=none
   codesign --force --sign "$identity" $stamp "$@" || fail "could not sign ${!#}"
 }
 
-# Executable code runs hardened.
+# Executables get the hardened runtime.
 sign_code() {
   local file=$1 rights=$2
   if [ -n "$rights" ]; then
@@ -32,7 +31,7 @@ sign_bundle() {
   sign_code "$staged" "$entitlements"
 }
 
-# The system's own indexer may hold a new volume for a moment.
+# The system's indexer may hold a new volume for a moment.
 disk_image() {
   local attempt
   for attempt in 1 2 3 4 5; do
@@ -49,8 +48,8 @@ create_image() {
     fail "could not make $image"
 }
 
-# The system runs an application out of an unsigned image at a random place, where it cannot tell
-# which image it came from.
+# macOS runs an application from an unsigned image at a random path, from which it cannot find its
+# image.
 sign_image() {
   [ "$identity" = - ] || sign "$made"
 }
@@ -60,7 +59,7 @@ notary() { xcrun notarytool "$@" --keychain-profile "$notary_profile"; }
 # The value of a key in the notary's last answer.
 answered() { sed -n "s/.*\"$1\" *: *\"\([^\"]*\)\".*/\1/p" "$work/notary.json"; }
 
-# A refusal is an answer, which the exit status does not tell from other ends.
+# The exit status does not tell a refusal from other failures, so read the answer.
 notarise_image() {
   [ -n "$notary_profile" ] || return 0
   notary submit "$made" --wait --output-format json >"$work/notary.json" || true
@@ -93,7 +92,7 @@ check_image() {
   [ -z "$notary_profile" ] || check_notarised_image
 }
 
-# As the system asks when a person opens the download.
+# Checks as macOS does when a person opens the download.
 check_notarised_image() {
   xcrun stapler validate -q "$made" || fail "the image does not carry the notary's ticket"
   spctl --assess --type open --context context:primary-signature "$made" ||

@@ -28,7 +28,7 @@ def _run(*command):
 
 
 def _insist(*command):
-    """Repeats a command until it succeeds: a volume is let go of a moment after its last user."""
+    """Repeats a command until it succeeds: a volume stays busy for a moment after its last user."""
     def succeeds():
         with contextlib.suppress(NotAllowed):
             _run(*command)
@@ -47,7 +47,7 @@ def _by_root(file):
             yield folder
         finally:
             if os.path.ismount(folder):
-                _insist("umount", folder)  # the loop device goes with it
+                _insist("umount", folder)  # this detaches the loop device too
 
 
 @contextlib.contextmanager
@@ -83,8 +83,7 @@ WAYS = [_by_mac] if sys.platform == "darwin" else [_by_root, _by_desktop]
 
 @contextlib.contextmanager
 def attached(file):
-    """Mounts an image's volume, in the first way that works, while the block runs; gives its
-    folder."""
+    """Mounts an image's volume during the block, in the first way that works. Gives its folder."""
     reasons = []
     with contextlib.ExitStack() as stack:
         for way in WAYS:

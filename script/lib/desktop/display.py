@@ -1,4 +1,4 @@
-"""A virtual display with a light window manager and a session bus, as a desktop has them."""
+"""A virtual desktop: a display with a light window manager and a session bus."""
 
 import os
 import subprocess
@@ -53,7 +53,7 @@ class VirtualDisplay:
         self._programs.append(program)
 
     def _answer(self, *command):
-        """Starts a program; gives the line that it writes to the descriptor that stands for {}."""
+        """Starts a program. Returns the line that it writes to the descriptor that replaces {}."""
         answer, number = os.pipe()
         with os.fdopen(answer) as file:
             try:

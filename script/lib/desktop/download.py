@@ -1,4 +1,4 @@
-"""A file as a downloader leaves it: fetched from a server on this machine, its origin recorded."""
+"""A download: a file from a server on this machine, with its origin recorded."""
 
 import contextlib
 import http.server
@@ -33,7 +33,7 @@ class _Handler(http.server.BaseHTTPRequestHandler):
 
 @contextlib.contextmanager
 def served(file, folder="vorx"):
-    """Serves one file, under a folder, while the block runs; gives its address."""
+    """Serves one file, under a folder, during the block. Gives its address."""
     file = pathlib.Path(file)
     with http.server.ThreadingHTTPServer(("127.0.0.1", 0), _Handler) as server:
         server.file = file
@@ -62,7 +62,7 @@ def _check_record(file):
 
 
 def download(address, folder):
-    """Downloads a file into a folder, its address recorded with it; gives the file."""
+    """Downloads a file into a folder and records its address with it. Returns the file."""
     file = pathlib.Path(folder) / address.rsplit("/", 1)[1]
     done = subprocess.run(["curl", "--xattr", "--fail", "--silent", "--show-error", "--noproxy", "*",
                            "--output", str(file), address], stdin=subprocess.DEVNULL,

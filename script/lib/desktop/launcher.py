@@ -1,5 +1,5 @@
-"""A launcher that runs, driven as a person drives it: by what the window calls its parts, with real
-keys and clicks."""
+"""A running launcher, driven as a person does: by the names of the window's parts, with real keys
+and clicks."""
 
 import pathlib
 
@@ -26,8 +26,8 @@ def texts_in(language):
 
 
 class Launcher:
-    """The window of a running process, in one language. It is shown in its place and has the keys on
-    return."""
+    """Takes the window of a running process, in one language. Returns once it is shown in its place
+    and has the focus."""
 
     def __init__(self, process, language="en"):
         self.process = process
@@ -43,11 +43,11 @@ class Launcher:
         window = known and known.find_window(self.texts[TITLE])
         return window and window.active and window
 
-    # What is seen.
+    # What the person sees.
 
     @property
     def on_display(self):
-        """The window as the window manager knows it."""
+        """The window, as the window manager sees it."""
         return windows_of(self.process.pid)[0]
 
     @property
@@ -75,7 +75,7 @@ class Launcher:
         self.wait_until(lambda: self.window.active, "the keys go to the launcher's window")
 
     def wait_for_alert(self):
-        """The alert, which is shown and has the keys."""
+        """Waits until an alert is shown and has the focus, and returns it."""
         def alert():
             found = program(self.process.pid).find_alert()
             return found and found.find(BUTTON).focused and found
@@ -85,14 +85,14 @@ class Launcher:
     def wait_for_no_alert(self):
         self.wait_until(lambda: len(windows_of(self.process.pid)) == 1, "the alert is gone")
 
-    # What is done.
+    # What the person does.
 
     def click_on(self, part):
         left, top, width, height = part.frame
         click(left + width // 2, top + height // 2)
 
     def enter(self, field, text):
-        """Types a text into a field, in the place of what is there."""
+        """Types a text into a field and replaces its former text."""
         self.click_on(field)
         self.wait_until(lambda: field.focused, "the field has the focus")
         press("ctrl+a", "BackSpace")

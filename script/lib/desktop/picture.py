@@ -1,4 +1,4 @@
-"""A picture of a window, and what can be told from it."""
+"""A picture of a window, and facts about it."""
 
 import collections
 import subprocess
@@ -41,7 +41,7 @@ def _printed_by(*command):
 
 
 def picture_of(window):
-    """What an X window shows now; the whole display is the window `root`."""
+    """A picture of an X window; the window `root` is the whole display."""
     return _printed_by("import", "-silent", "-window", window)
 
 

@@ -1,4 +1,4 @@
-"""The processes that this one has started, also those that have lost their parent since."""
+"""The processes that this one has started, including those whose parent has ended."""
 
 import ctypes
 import os
@@ -55,7 +55,7 @@ def none_left():
 
 
 def end_descendants():
-    """Ends every process below this one: asked first, then made to."""
+    """Ends every process below this one: asks first, then kills."""
     _signal_all(descendants(), signal.SIGTERM)
     try:
         wait_until(none_left, "the descendants have ended", limit=5)

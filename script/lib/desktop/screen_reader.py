@@ -1,4 +1,4 @@
-"""What a screen reader sees of a program: its windows and all that is in them, by role and name."""
+"""A program as a screen reader sees it: its windows and their parts, by role and name."""
 
 import contextlib
 
@@ -7,7 +7,7 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
-# Makes a program tell the screen reader about itself before one has asked.
+# Makes programs report to screen readers from their start.
 ENVIRONMENT = {"QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1"}
 
 LABEL, FIELD, BUTTON, ALERT, NOTIFICATION = "label", "text", "button", "alert", "notification"
@@ -17,7 +17,7 @@ Atspi.set_timeout(10_000, 60_000)
 
 
 class Part:
-    """A window or something in it. It is asked anew each time; gone, it answers with an error."""
+    """A window or a part of one. Every call asks the program anew, and fails if the part is gone."""
 
     def __init__(self, accessible):
         self._accessible = accessible
@@ -33,7 +33,7 @@ class Part:
 
     @property
     def text(self):
-        """What a field holds."""
+        """A field's text."""
         return Atspi.Text.get_text(self._accessible, 0, -1)
 
     def _has(self, state):
@@ -49,7 +49,7 @@ class Part:
 
     @property
     def active(self):
-        """Whether a window is the one that the keys go to."""
+        """Whether a window has the keyboard focus."""
         return self._has(Atspi.StateType.ACTIVE)
 
     @property
@@ -64,15 +64,15 @@ class Part:
         return [Part(child) for child in children if child is not None]
 
     def all(self, role):
-        """Everything below of a role, in the order of the window."""
+        """Every part below with the role, in the window's order."""
         found = []
         for part in self.parts():
             found += ([part] if part.role == role else []) + part.all(role)
         return found
 
     def find(self, role, name=None):
-        """The first part of a role, and of a name where one is given; None where there is none."""
-        with contextlib.suppress(GLib.Error):  # something that has gone meanwhile
+        """The first part with the role, and the name if one is given; or None."""
+        with contextlib.suppress(GLib.Error):  # a part that has gone meanwhile
             return next((part for part in self.all(role) if name in (None, part.name)), None)
 
     def find_window(self, name):
@@ -86,7 +86,7 @@ class Part:
 
 
 def program(process):
-    """A running program, whose parts are its windows; None until it is known."""
+    """A running program, whose parts are its windows; None until the program has registered."""
     with contextlib.suppress(GLib.Error):
         for part in Part(Atspi.get_desktop(0)).parts():
             if part._accessible.get_process_id() == process:
@@ -95,8 +95,8 @@ def program(process):
 
 
 class Announcements:
-    """What a screen reader says during the `with` block: what a notification is called when it is
-    shown."""
+    """What a screen reader says during the `with` block: the name of each notification that
+    appears."""
 
     _SHOWN = "object:state-changed:showing"
 
@@ -112,7 +112,7 @@ class Announcements:
         self._listener.deregister(self._SHOWN)
 
     def _hear(self, event):
-        with contextlib.suppress(GLib.Error):  # what has gone meanwhile
+        with contextlib.suppress(GLib.Error):  # a part that has gone meanwhile
             if event.detail1 == 1 and Part(event.source).role == NOTIFICATION:
                 self._heard.append(Part(event.source).name)
 

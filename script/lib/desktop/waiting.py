@@ -6,11 +6,11 @@ LIMIT_SECONDS = 60
 
 
 class Failure(Exception):
-    """Something could not be done; the text is the whole message, which a script prints as one line."""
+    """Something failed. The text is the whole message, which a script prints as one line."""
 
 
 def wait_until(condition, what, limit=LIMIT_SECONDS):
-    """Waits until the condition answers something true, and gives that answer."""
+    """Waits until the condition returns a true value, and returns that value."""
     end = time.monotonic() + limit
     while True:
         answer = condition()

@@ -21,7 +21,7 @@ def type_text(text):
 
 
 def click(x, y):
-    """Clicks at a place on the display, and leaves the pointer where no explanation pops up."""
+    """Clicks at a place on the display, then moves the pointer to where no tool tip appears."""
     _output("xdotool", "mousemove", str(x), str(y), "click", "1", "mousemove", "1", "1")
 
 

@@ -1,7 +1,7 @@
 # Sourced by script/bootstrap: Debian's packages.
 
-# The packages of the named groups, one a line; where none is named, of all groups but that of the
-# benchmarks, which install many programs to be measured against.
+# Prints the packages of the named groups, one a line. Without a name, prints all groups but that of
+# the benchmarks, which installs many programs to compare with.
 packages() {
   awk -v wanted=" $* " '
     /^\[/ { group = substr($1, 2, length($1) - 2); next }
@@ -10,13 +10,13 @@ packages() {
   ' script/lib/packages
 }
 
-# The installed packages, of those of a name where one is given.
+# Prints the installed packages, or those that match a name.
 installed() {
   dpkg-query --show --showformat '${db:Status-Status} ${Package}\n' "$@" | sed -n 's/^installed //p'
 }
 
-# Those of the named groups that are not there, one a line. A program that came another way than as
-# a package is there too.
+# Prints the missing packages of the named groups, one a line. A program that was installed in
+# another way is not missing.
 missing() {
   local package
   comm -13 <(installed | sort -u) <(packages "$@" | sort -u) | while read -r package; do
@@ -47,7 +47,7 @@ bootstrap() {
 
   say "Installing $list"
   as_root apt-get update -qq || fail "the lists of packages cannot be fetched"
-  # shellcheck disable=SC2086  # the list is made of words; what an asterisk stands for, apt knows
+  # shellcheck disable=SC2086 # the list is split into words; apt expands an asterisk
   as_root env DEBIAN_FRONTEND=noninteractive \
     apt-get install -qq --yes --no-install-recommends $list </dev/null ||
     fail "not everything could be installed: $list"

@@ -1,1 +1,1 @@
-"""The program's texts in its languages: read for the build, compared by the tests."""
+"""The program's texts in its languages. The build reads them; the tests compare them."""

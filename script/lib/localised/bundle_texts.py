@@ -1,4 +1,4 @@
-"""Writes InfoPlist.strings: what macOS says of the application in one language.
+"""Writes InfoPlist.strings: the texts that macOS shows about the application in one language.
 
 usage: bundle_texts.py Info.plist TABLE.strings OUTPUT.strings
 """

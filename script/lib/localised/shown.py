@@ -1,4 +1,4 @@
-"""What the program shows: the texts of its code, of its layout files and of its Info.plist."""
+"""The texts that the program shows: those of its code, its layout files and its Info.plist."""
 
 import plistlib
 import re
@@ -8,7 +8,7 @@ _LITERALS = r'((?:"(?:[^"\\]|\\.)*"\s*)+)'
 _TEXT = re.compile(rf"\bLocalizableText\s+\w+\s*{{\s*{_LITERALS},\s*{_LITERALS}}}")
 _LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
 
-# Placeholders are left out: they are example addresses, the same in every language.
+# Leave out placeholders: they are example addresses, the same in every language.
 _SHOWN_ATTRIBUTES = ["title", "toolTip", "label"]
 _SPOKEN_ATTRIBUTES = ["description", "help"]
 
@@ -18,13 +18,13 @@ def _joined(literals):
 
 
 def texts_of_code(source):
-    """Key → translators' comment, of every LocalizableText that the source defines."""
+    """The translators' comment by key, for every LocalizableText in the source."""
     return {_joined(key): _joined(comment) for key, comment in _TEXT.findall(source)}
 
 
 def shown_attributes(element):
     """The names of an element's attributes that may hold a text to be shown or spoken."""
-    if element.get("systemMenu") == "main":  # the menu bar: its own title is never shown
+    if element.get("systemMenu") == "main":  # the menu bar, whose own title is never shown
         return []
     if element.tag == "accessibility":
         return _SPOKEN_ATTRIBUTES
@@ -34,14 +34,14 @@ def shown_attributes(element):
 
 
 def texts_of_layout(xib):
-    """The keys of the texts that a layout file shows or has spoken."""
+    """The keys of the texts that a layout file shows, or a screen reader speaks."""
     elements = xml.etree.ElementTree.fromstring(xib).iter()
     texts = {element.get(name) for element in elements for name in shown_attributes(element)}
     return texts - {None, ""}
 
 
 def texts_of_information(plist):
-    """An Info.plist's name → the key of the text that macOS shows for it."""
+    """The key of the text that macOS shows, by the name in Info.plist."""
     information = plistlib.loads(plist)
     names = dict.fromkeys(["CFBundleDisplayName", "CFBundleName"], information["CFBundleName"])
     reasons = {name: text for name, text in information.items() if name.endswith("UsageDescription")}

@@ -1,4 +1,4 @@
-"""Reads strings tables: a translators' comment, then "key" = "text"; and so on."""
+"""Reads strings tables. An entry is a translators' comment, then "key" = "text";"""
 
 import codecs
 import collections
@@ -12,7 +12,7 @@ _ESCAPE = re.compile(r"\\(U[0-9a-fA-F]{4}|.)", re.DOTALL)
 
 
 class Unreadable(Exception):
-    """The table is not one that both platforms read."""
+    """One of the platforms cannot read the table."""
 
 
 def _unescaped(text):
@@ -23,7 +23,7 @@ def _unescaped(text):
 
 
 def decode(data):
-    """The table's text. Without the mark, one of the platforms takes the bytes for another encoding."""
+    """The table's text. Without a byte-order mark one platform would take another encoding."""
     if not data.startswith(codecs.BOM_UTF8):
         raise Unreadable("does not begin with UTF-8's byte-order mark")
     try:

@@ -31,7 +31,7 @@ std::span<const TextTable> textTables() {{ return allTables; }}
 
 
 def _literal(text):
-    """A text as C++ spells it."""
+    """A text as a C++ literal."""
     escapes = {"\\": "\\\\", '"': '\\"', "\n": "\\n", "\t": "\\t"}
     return '"' + "".join(escapes.get(character, character) for character in text) + '"'
 

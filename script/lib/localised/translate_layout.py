@@ -1,4 +1,4 @@
-"""Writes a layout file in one language: its texts, replaced by what a strings table says for them.
+"""Writes a layout file in one language, with its texts replaced from a strings table.
 
 usage: translate_layout.py LAYOUT.xib TABLE.strings OUTPUT.xib
 """
@@ -12,7 +12,7 @@ import tables
 
 
 def translate(layout, texts):
-    """Replaces, in a layout's tree, each shown text that has a translation; the others stay."""
+    """Replaces each shown text in the layout that has a translation; the others stay."""
     for element in layout.iter():
         for name in shown.shown_attributes(element):
             if element.get(name) in texts:

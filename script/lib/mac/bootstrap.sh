@@ -1,4 +1,4 @@
-# Sourced by script/bootstrap: what a Mac needs, checked and told; nothing is installed.
+# Sourced by script/bootstrap: checks what a Mac needs and reports it. Installs nothing.
 
 # The C++ library of an older Xcode lacks parts of C++20 that the code uses.
 readonly oldest_xcode=15
