@@ -18,7 +18,7 @@ foreach(architecture IN LISTS CMAKE_OSX_ARCHITECTURES)
     file(MAKE_DIRECTORY "${folder}")
     add_custom_command(OUTPUT "${mark}" DEPENDS "${source}" DEPFILE "${mark}.d"
       COMMAND "${CMAKE_CXX_COMPILER}" --analyze "--target=${architecture}-apple-macos11.0"
-              -isysroot "${CMAKE_OSX_SYSROOT}" "-I${CMAKE_SOURCE_DIR}" -std=c++20
+              -isysroot "${CMAKE_OSX_SYSROOT}" "-I${CMAKE_SOURCE_DIR}" -std=c++20 -fobjc-weak
               -Xclang -analyzer-output=text -Xclang -analyzer-werror
               -Xclang "-analyzer-checker=${MAC_CHECKERS}"
               -MD -MF "${mark}.d" -MT "${mark}" -o "${mark}.findings" "${source}"
