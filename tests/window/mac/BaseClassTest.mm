@@ -39,7 +39,9 @@ class BaseClassMessage {
   BaseClassMessage(SEL message, Function stand, std::function<void(ViewController*)> action)
       : method_(class_getInstanceMethod([NSViewController class], message)) {
     whenCalled = std::move(action);
-    before_ = method_setImplementation(method_, reinterpret_cast<IMP>(stand));
+    // By way of void*: compilers warn of a cast between types of functions.
+    void* const implementation = reinterpret_cast<void*>(stand);
+    before_ = method_setImplementation(method_, reinterpret_cast<IMP>(implementation));
   }
   ~BaseClassMessage() {
     method_setImplementation(method_, before_);
