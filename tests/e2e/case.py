@@ -141,7 +141,7 @@ class LauncherTest(unittest.TestCase):
 
     def quit(self):
         """Closes the window and waits for the launcher to end."""
-        self.launcher.close()
+        self.launcher.on_display.close()
         self.assert_ends()
 
     # What is seen.

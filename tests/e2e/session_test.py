@@ -15,7 +15,7 @@ from desktop.launcher import PROGRAM
 from desktop.picture import picture_in
 from desktop.processes import adopt_orphans, end_descendants, none_left
 from desktop.waiting import wait_until
-from desktop.window import press, windows_of
+from desktop.window import windows_of
 
 MOUNT = "#!/bin/sh\necho 'mount: not permitted' >&2\nexit 32\n"
 UDISKSCTL_THAT_MAY_NOT = "#!/bin/sh\necho 'Error: not authorized' >&2\nexit 1\n"
@@ -76,8 +76,7 @@ class SessionTest(unittest.TestCase):
 
     def close_window(self):
         launchers = wait_until(lambda: doubles.running(PROGRAM), "the launcher runs")
-        wait_until(lambda: windows_of(launchers[0]), "the launcher shows its window")
-        wait_until(lambda: press("alt+F4") or not windows_of(launchers[0]), "the window is closed")
+        wait_until(lambda: windows_of(launchers[0]), "the launcher shows its window")[0].close()
 
     def assert_ends(self, status):
         """The session ends with a status, and nothing of it is left."""

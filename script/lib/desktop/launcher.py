@@ -99,8 +99,3 @@ class Launcher:
         self.wait_until(lambda: field.text == "", "the field is empty")
         type_text(text)
         self.wait_until(lambda: field.text == text, f"the field holds '{text}'")
-
-    def close(self):
-        """Closes the window through the window manager, as its close button does."""
-        self.wait_until_active()
-        press("alt+F4")

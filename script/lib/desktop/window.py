@@ -4,6 +4,7 @@ import re
 import subprocess
 
 from desktop.picture import picture_of
+from desktop.waiting import wait_until
 
 
 def _output(*command):
@@ -58,6 +59,15 @@ class Window:
     def save_picture(self, file):
         """Writes a picture of the window with its frame to a file."""
         _output("import", "-silent", "-frame", "-window", self.identifier, str(file))
+
+    def is_active(self):
+        """Whether the window manager's own keys, such as Alt+F4, are for this window."""
+        return _output("xprop", "-root", "_NET_ACTIVE_WINDOW").endswith(f" {self.identifier}\n")
+
+    def close(self):
+        """Closes the window through the window manager, as its close button does."""
+        wait_until(self.is_active, "the window is the active one")
+        press("alt+F4")
 
     def minimise(self):
         _output("xdotool", "windowminimize", str(int(self.identifier, 16)))
