@@ -6,6 +6,11 @@
 
 namespace viewer {
 
+std::string description(const Arguments& arguments) {
+  return "sample viewer: host " + arguments.host + ", IP address " + arguments.ipAddress +
+         ", resource folder " + arguments.resourceFolder;
+}
+
 std::optional<Arguments> parseArguments(int argc, const char* const* argv) {
   const std::span<const char* const> texts(argv, static_cast<std::size_t>(argc));
   if (texts.size() != 7) return std::nullopt;

@@ -12,6 +12,12 @@ struct Arguments {
   std::string resourceFolder;
 };
 
+/// The form of the arguments, for a message to the person.
+inline constexpr const char* kUsage = "-l HOST -i ADDRESS -r FOLDER";
+
+/// One line that tells the arguments.
+std::string description(const Arguments& arguments);
+
 /// Reads the arguments with which the launcher starts a viewer; absent for any others.
 ///
 ///     vexlink -l HOST -i ADDRESS -r FOLDER

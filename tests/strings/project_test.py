@@ -1,6 +1,7 @@
 """The project's own tables agree with its code and layout."""
 
 import pathlib
+import plistlib
 import unittest
 
 from faults import faults, faults_of_english
@@ -9,7 +10,7 @@ from localised.tables import decode, parse
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 RESOURCES = ROOT / "resources"
-LANGUAGES = ["de", "en", "es", "fr", "it", "ja", "pt-BR", "zh-Hans"]
+LANGUAGES = plistlib.loads((RESOURCES / "Info.plist").read_bytes())["CFBundleLocalizations"]
 
 
 def read(language):
@@ -31,6 +32,7 @@ def comments_of_what_is_shown():
 class ProjectTest(unittest.TestCase):
     def test_every_language_has_its_folder_and_every_folder_is_a_language(self):
         folders = {path.stem for path in RESOURCES.glob("*.lproj")} - {"Base"}
+        self.assertIn("en", folders)
         self.assertEqual(folders, set(LANGUAGES))
 
     def test_the_code_and_the_layout_were_read(self):

@@ -12,12 +12,6 @@
 
 namespace {
 
-void print(const viewer::Arguments& arguments) {
-  std::printf("sample viewer: host %s, IP address %s, resource folder %s\n", arguments.host.c_str(),
-              arguments.ipAddress.c_str(), arguments.resourceFolder.c_str());
-  std::fflush(stdout);
-}
-
 /// The toolkit aborts if it finds no display. A viewer without one waits for its signal.
 void waitWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString&) {
   if (type != QtFatalMsg) return;
@@ -43,9 +37,10 @@ int showWindow(char* program, const viewer::Arguments& arguments) {
 int main(int argc, char** argv) {
   const auto arguments = viewer::parseArguments(argc, argv);
   if (!arguments) {
-    std::fprintf(stderr, "usage: %s -l HOST -i ADDRESS -r FOLDER\n", argv[0]);
+    std::fprintf(stderr, "usage: %s %s\n", argv[0], viewer::kUsage);
     return 2;
   }
-  print(*arguments);
+  std::puts(viewer::description(*arguments).c_str());
+  std::fflush(stdout);
   return showWindow(argv[0], *arguments);
 }

@@ -11,12 +11,6 @@
 
 namespace {
 
-void print(const viewer::Arguments& arguments) {
-  std::printf("sample viewer: host %s, IP address %s, resource folder %s\n", arguments.host.c_str(),
-              arguments.ipAddress.c_str(), arguments.resourceFolder.c_str());
-  std::fflush(stdout);
-}
-
 /// Shows the launcher's icon, if there is one.
 void takeIcon(NSApplication* application, const viewer::Arguments& arguments) {
   const std::string path = arguments.resourceFolder + "/VorxLauncher.icns";
@@ -44,11 +38,12 @@ void showWindow(const viewer::Arguments& arguments) {
 int main(int argc, char** argv) {
   const auto arguments = viewer::parseArguments(argc, argv);
   if (!arguments) {
-    std::fprintf(stderr, "usage: %s -l HOST -i ADDRESS -r FOLDER\n", argv[0]);
+    std::fprintf(stderr, "usage: %s %s\n", argv[0], viewer::kUsage);
     return 2;
   }
 
-  print(*arguments);
+  std::puts(viewer::description(*arguments).c_str());
+  std::fflush(stdout);
   showWindow(*arguments);
   return 0;
 }

@@ -8,7 +8,7 @@
 namespace launcher {
 namespace {
 
-TEST(UnicodeRulesTest, AnswersForNothing) {
+TEST(UnicodeRulesTest, AcceptsTheEmptyText) {
   EXPECT_EQ(graphemeClusterCount(u""), 0U);
   EXPECT_EQ(decomposition(u""), u"");
 }

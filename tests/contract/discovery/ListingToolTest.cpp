@@ -105,7 +105,7 @@ TEST_F(ListingToolTest, TheHandlerMayBeRemovedTwice) {
   tool->setOutputHandler({});
 }
 
-TEST_F(ListingToolTest, NobodyNeedsToListen) {
+TEST_F(ListingToolTest, RunsWithoutAnOutputHandler) {
   script("echo a; echo b > printed");
   const auto tool = makeListingToolAt(program());
   ASSERT_TRUE(tool->launch());
@@ -136,7 +136,7 @@ TEST_F(ListingToolTest, AGrandchildThatHoldsTheOutputOpenIsNotAwaited) {
   sendSignal(grandchild, SIGKILL);
 }
 
-TEST_F(ListingToolTest, WhatCannotBeStartedCallsNobody) {
+TEST_F(ListingToolTest, AToolThatCannotBeStartedCallsNoHandler) {
   EXPECT_FALSE(makeTool()->launch()) << "missing";
   script("echo a", 0600);
   EXPECT_FALSE(makeTool()->launch()) << "not executable";
@@ -145,7 +145,7 @@ TEST_F(ListingToolTest, WhatCannotBeStartedCallsNobody) {
   EXPECT_EQ(seen_->exits, 0);
 }
 
-TEST_F(ListingToolTest, WhatCannotBeStartedLetsTheOutputHandlerGo) {
+TEST_F(ListingToolTest, AToolThatCannotBeStartedDestroysTheOutputHandler) {
   auto held = std::make_shared<int>(0);
   const std::weak_ptr<int> watched = held;
   const auto tool = makeListingToolAt(program());

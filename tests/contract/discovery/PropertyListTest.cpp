@@ -197,7 +197,7 @@ TEST(PropertyListTest, WrongStructureIsNoList) {
   });
 }
 
-TEST(PropertyListTest, ReadsWhatStandsAroundTheList) {
+TEST(PropertyListTest, ReadsTheMarkupAroundTheList) {
   const std::string list = "<plist><string>a</string></plist>";
   expectDocuments({
       {list, "'a'"},

@@ -74,7 +74,7 @@ TEST(HostileTextsTest, AddressesWithAnythingElseAreRefused) {
   }
 }
 
-TEST(HostileTextsTest, HostsThatCannotBeHaveNoAddress) {
+TEST(HostileTextsTest, ImpossibleHostsHaveNoAddress) {
   const auto resolver = makeHostResolver();
   for (const std::string& host : {""s, "\0"s, " "s, "\n"s, "a..b"s, "."s, std::string(10'000, 'a'),
                                   "%s%n"s, "$(reboot)"s, "-l"s, "\u202e"s, "\xff"s}) {

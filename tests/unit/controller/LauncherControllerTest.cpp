@@ -232,7 +232,7 @@ TEST_F(LaunchButtonTest, HandsHostAndAddressToTheViewer) {
   }
 }
 
-TEST_F(LaunchButtonTest, TakesALocationWithoutASchemeForASecureOne) {
+TEST_F(LaunchButtonTest, ALocationWithoutASchemeMeansHttps) {
   const std::pair<const char*, const char*> table[] = {
       {"server.example", "https://server.example"},
       {"server.example:/", "https://server.example:/"},
@@ -333,7 +333,7 @@ TEST_F(LaunchButtonTest, TranslatesTheAlert) {
   EXPECT_EQ(window.alerts[0].button, "Gut");
 }
 
-TEST_F(LaunchButtonTest, HandsBackAlsoWhereTheViewerCannotBeStarted) {
+TEST_F(LaunchButtonTest, UnlocksTheFormIfTheViewerCannotBeStarted) {
   starter.refuses = true;
   fill("https://server.example", "10.0.0.5");
   controller.launchButtonClick();

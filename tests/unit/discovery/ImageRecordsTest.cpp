@@ -61,7 +61,7 @@ class CountedBundle : public FakeBundle {
   }
 };
 
-TEST(ImageRecordsFolderTest, TheApplicationIsAskedOnceWhereItLies) {
+TEST(ImageRecordsFolderTest, TheApplicationsPathIsReadOnce) {
   const CountedBundle bundle;
   const PropertyList unknown =
       image("/a.dmg", {mountedAt("/Volumes/Vorx"), mountedAt("/Volumes/Other")});
@@ -184,7 +184,7 @@ TEST_F(ImageRecordsTest, AListingWithoutImagesHoldsNothing) {
   }
 }
 
-TEST_F(ImageRecordsTest, RecordsThatLackSomethingArePassedOver) {
+TEST_F(ImageRecordsTest, RecordsThatLackSomethingAreSkipped) {
   const Array matching = {mountedAt("/Volumes/Vorx")};
   const PropertyList records[] = {
       Dictionary{},
@@ -204,7 +204,7 @@ TEST_F(ImageRecordsTest, RecordsThatLackSomethingArePassedOver) {
   }
 }
 
-TEST_F(ImageRecordsTest, VolumesThatLackSomethingArePassedOver) {
+TEST_F(ImageRecordsTest, VolumesThatLackSomethingAreSkipped) {
   const PropertyList entities[] = {
       Dictionary{},
       Dictionary{{"mount-point", PropertyList()}},

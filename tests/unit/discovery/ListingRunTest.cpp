@@ -59,7 +59,7 @@ class ListingRunTest : public testing::Test {
   int runs_ = 0;
 };
 
-TEST_F(ListingRunTest, ReturnsWhatTheListingIsJudgedToBe) {
+TEST_F(ListingRunTest, ReturnsTheJudgesAnswer) {
   tool_->output = {kListing};
   EXPECT_EQ(search(), "https://h/D/");
   EXPECT_THAT(judged(), ElementsAre("all"));
@@ -145,7 +145,7 @@ TEST_F(ListingRunTest, EverySearchIsARunOfItsOwn) {
   EXPECT_EQ(runs_, 2);
 }
 
-TEST_F(ListingRunTest, NothingOfASearchStays) {
+TEST_F(ListingRunTest, ASearchKeepsNothing) {
   for (const bool startable : {true, false}) {
     tool_ = std::make_shared<FakeListingTool>();
     tool_->startable = startable;

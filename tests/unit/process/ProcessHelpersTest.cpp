@@ -100,7 +100,7 @@ TEST(ProcessHelpersTest, IllFormedBytesCountAsReplacementCharacters) {
   expectFound("abcd", {process(7, "\xc3"), process(8, "ab")}, 8);
 }
 
-TEST(ProcessHelpersTest, AProcessThatHasEndedIsPassedOver) {
+TEST(ProcessHelpersTest, AProcessThatHasEndedIsSkipped) {
   FakeProcessTable table;
   table.processes = {process(7, "vexlink"), process(8, "vexlink")};
   table.ended = {7};

@@ -11,7 +11,7 @@ std::optional<Arguments> parse(std::vector<const char*> argv) {
   return parseArguments(static_cast<int>(argv.size()), argv.data());
 }
 
-TEST(ViewerArgumentsTest, AreTakenAsTheyCome) {
+TEST(ViewerArgumentsTest, AreReadUnchanged) {
   const auto arguments = parse({"viewer", "-l", "host name", "-i", "::1", "-r", "/a b/\xff"});
   ASSERT_TRUE(arguments);
   EXPECT_EQ(arguments->host, "host name");
@@ -25,7 +25,12 @@ TEST(ViewerArgumentsTest, MayBeEmptyTexts) {
   EXPECT_EQ(arguments->host, "");
 }
 
-TEST(ViewerArgumentsTest, AreNothingElse) {
+TEST(ViewerArgumentsTest, AreToldInOneLine) {
+  EXPECT_EQ(description({.host = "h", .ipAddress = "::1", .resourceFolder = "/a b"}),
+            "sample viewer: host h, IP address ::1, resource folder /a b");
+}
+
+TEST(ViewerArgumentsTest, OthersAreRefused) {
   EXPECT_FALSE(parse({}));
   EXPECT_FALSE(parse({"viewer"}));
   EXPECT_FALSE(parse({"viewer", "-l", "host", "-i", "::1", "-r"}));

@@ -26,7 +26,7 @@ TEST_F(LifetimeTest, EndsWithItsLastOwner) {
   EXPECT_TRUE(eventually([this] { return ended_; }));
 }
 
-TEST_F(LifetimeTest, ATokenDroppedOnAnotherThreadLetsGoOnTheMainOne) {
+TEST_F(LifetimeTest, ATokenDroppedOnAnotherThreadReleasesOnTheMainOne) {
   std::shared_ptr<void> token = window_->keepAlive();
   window_.reset();
   settle(*world_.mainQueue);

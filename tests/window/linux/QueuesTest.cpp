@@ -69,7 +69,7 @@ TEST_F(MainQueueTest, AnItemMayPostAnother) {
   EXPECT_EQ(order, "12");
 }
 
-TEST_F(MainQueueTest, LetsGoOfAnItemOnceItHasRun) {
+TEST_F(MainQueueTest, DestroysAnItemOnceItHasRun) {
   auto held = std::make_shared<int>();
   const std::weak_ptr<int> watched = held;
   queue_.add([held = std::move(held)] {});
@@ -91,7 +91,7 @@ TEST(BackgroundQueueTest, RunsItemsAtTheSameTimeOffTheMainThread) {
   EXPECT_TRUE(eventually([&] { return left == 20; }));
 }
 
-TEST(BackgroundQueueTest, LetsGoOfAnItemOnceItHasRun) {
+TEST(BackgroundQueueTest, DestroysAnItemOnceItHasRun) {
   BackgroundQueue queue;
   auto held = std::make_shared<int>();
   const std::weak_ptr<int> watched = held;

@@ -73,8 +73,7 @@ TEST_P(FitTest, TheButtonHasRoomForEachTitle) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, FitTest,
-                         testing::Values("de", "en", "es", "fr", "it", "ja", "pt-BR", "zh-Hans"));
+INSTANTIATE_TEST_SUITE_P(Languages, FitTest, testing::Values(LANGUAGES));
 
 }  // namespace
 }  // namespace launcher

@@ -136,7 +136,7 @@ TEST_F(FocusTest, AFoundLocationDoesNotTakeItAway) {
   EXPECT_EQ(textOf(location()), "https://h/");
 }
 
-TEST_F(FocusTest, AFoundLocationGivesItBackWhereTheFieldLetsGoOfIt) {
+TEST_F(FocusTest, AFoundLocationGivesItBackIfTheFieldLosesIt) {
   LettingGoField* field = lettingGoField();
   [shown_.controller() updateSourceLocationWithSource:@"https://h/"];
   settle();

@@ -106,7 +106,7 @@ TEST_F(LifetimeTest, ABackgroundItemKeepsTheControllerAlive) {
   [queue release];
 }
 
-TEST_F(LifetimeTest, ATokenDroppedOnAnotherThreadLetsGoOnTheMainOne) {
+TEST_F(LifetimeTest, ATokenDroppedOnAnotherThreadReleasesOnTheMainOne) {
   WatchedController* controller = loaded();
   std::shared_ptr<void> token = WindowBridge(controller).keepAlive();
   [controller release];

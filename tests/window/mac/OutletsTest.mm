@@ -20,7 +20,7 @@ TEST(OutletsDeathTest, EveryOutletIsRequired) {
   EXPECT_DEATH([unconnected() ipAddress], report);
 }
 
-TEST(OutletsDeathTest, AlsoToTheOperationsThatReadThem) {
+TEST(OutletsDeathTest, OperationsNeedTheOutletsThatTheyRead) {
   EXPECT_DEATH([unconnected() viewDidLoad], report);
   EXPECT_DEATH([unconnected() updateState], report);
   EXPECT_DEATH([unconnected() launchButtonClick:nil], report);
@@ -28,7 +28,7 @@ TEST(OutletsDeathTest, AlsoToTheOperationsThatReadThem) {
 
 #if __has_feature(objc_arc_weak)
 /// AppKit's stand-in knows no weak references.
-TEST(OutletsDeathTest, OneIsNotConnectedAnyMoreWhenItsControlHasGone) {
+TEST(OutletsDeathTest, AnOutletDisconnectsWhenItsControlIsDestroyed) {
   ViewController* controller = unconnected();
   @autoreleasepool {
     NSTextField* field = [[NSTextField alloc] init];

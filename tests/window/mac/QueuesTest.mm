@@ -56,7 +56,7 @@ TEST_F(QueuesTest, ABackgroundItemDoesNotWaitBehindABusyOne) {
   [operations_ waitUntilAllOperationsAreFinished];
 }
 
-TEST_F(QueuesTest, AnItemIsLetGoOfWhereItRan) {
+TEST_F(QueuesTest, AnItemIsDestroyedWhereItRan) {
   auto held = std::make_shared<int>();
   const std::weak_ptr<int> watched = held;
   background_->add([held = std::move(held)] {});

@@ -13,7 +13,7 @@ class UndoTest : public testing::Test {
   void SetUp() override { clearStage(); }
 };
 
-TEST_F(UndoTest, TakesTypingBackAndMakesItAgain) {
+TEST_F(UndoTest, UndoesAndRedoesTyping) {
   LauncherWindowOnScreen shown;
   type(shown.window(), @"https://h/");
   ASSERT_TRUE([[shown.controller() launchButton] isEnabled]);
@@ -27,7 +27,7 @@ TEST_F(UndoTest, TakesTypingBackAndMakesItAgain) {
   EXPECT_TRUE([[shown.controller() launchButton] isEnabled]);
 }
 
-TEST_F(UndoTest, KeepsToTheFieldThatIsEdited) {
+TEST_F(UndoTest, UndoesOnlyInTheEditedField) {
   LauncherWindowOnScreen shown;
   type(shown.window(), @"https://a.long.name.example/");
   tab(shown.window());

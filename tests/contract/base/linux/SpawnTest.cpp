@@ -100,7 +100,7 @@ TEST(SpawnTest, CutsAnArgumentAtItsNul) {
   EXPECT_EQ(outputOf({"arguments", std::string("ab\0cd", 5)}), "[ab]\n");
 }
 
-TEST(SpawnTest, HandsOnTheEnvironment) {
+TEST(SpawnTest, PassesTheEnvironmentOn) {
   setenv("LAUNCHER_TEST_VARIABLE", "kept", 1);
   EXPECT_EQ(outputOf({"variable", "LAUNCHER_TEST_VARIABLE"}), "kept");
   unsetenv("LAUNCHER_TEST_VARIABLE");
@@ -163,7 +163,7 @@ TEST(SpawnTest, TerminateEndsTheChildAndLeavesNoZombie) {
   EXPECT_TRUE(hasNoChildren());
 }
 
-TEST(SpawnTest, TellsTheExitOnceAfterTheReaping) {
+TEST(SpawnTest, ReportsTheExitOnceAfterTheReaping) {
   std::atomic<int> exits = 0;
   std::atomic<bool> reaped = false;
   auto held = std::make_shared<int>();
@@ -180,7 +180,7 @@ TEST(SpawnTest, TellsTheExitOnceAfterTheReaping) {
   EXPECT_TRUE(reaped);
 }
 
-TEST(SpawnTest, TheExitIsNotToldWhileTheChildRuns) {
+TEST(SpawnTest, ReportsNoExitWhileTheChildRuns) {
   std::atomic<bool> exited = false;
   Pipe pipe;
   const auto child =
@@ -312,7 +312,7 @@ class UnusableProgramTest : public testing::Test {
   }
 };
 
-TEST_F(UnusableProgramTest, GivesNullAndTellsNoExit) {
+TEST_F(UnusableProgramTest, GivesNullAndReportsNoExit) {
   std::atomic<int> exits = 0;
   for (const std::string& path :
        {std::string(), std::string("test-child"), file("missing"), folder_, file("plain"),

@@ -101,7 +101,7 @@ TEST(PropertyListLinuxTest, EntityBombsAreRefused) {
   EXPECT_EQ(describedReading(entityBomb()), "error");
 }
 
-TEST(PropertyListLinuxTest, TellsTheFirstThingThatIsWrong) {
+TEST(PropertyListLinuxTest, ReportsTheFirstError) {
   EXPECT_EQ(errorOf("<unknown/>"), "an unknown element");
   EXPECT_EQ(errorOf("<array><string>a<b/></string>c</array>"), "an element in one that holds none");
   EXPECT_EQ(errorOf("<array><integer>1x</integer><unknown/>"), "no integer");
@@ -171,7 +171,7 @@ TEST(PropertyListLinuxTest, BinaryValuesMayLieInFiveHundredOthers) {
   EXPECT_EQ(errorOf(nestedBinaryList(512).bytes()), "");
 }
 
-TEST(PropertyListLinuxTest, WhatNobodyReadsIsNotLookedAt) {
+TEST(PropertyListLinuxTest, DoesNotCheckValuesThatNobodyReads) {
   for (const std::string& object :
        {"\x07"s, "\x15"s + std::string(32, '\0'), "\x21"s + std::string(2, '\0'),
         "\x84"s + std::string(5, '\xff')}) {

@@ -19,7 +19,7 @@ TEST(PropertyListMacTest, ReadsWhatTheFoundationReads) {
   }
 }
 
-TEST(PropertyListMacTest, LooksAtWhatNobodyReads) {
+TEST(PropertyListMacTest, ChecksValuesThatNobodyReads) {
   for (const std::string& object :
        {"\x07"s, "\x0f"s, "\x15"s + std::string(32, '\0'), "\x21"s + std::string(2, '\0'),
         "\x24"s + std::string(16, '\0'), "\x32"s + std::string(4, '\0'),

@@ -74,7 +74,7 @@ TEST(LinkDetectorLinuxTest, ReadsHosts) {
   for (const auto& [text, link] : kCases) EXPECT_EQ(foundLink(text), link) << text;
 }
 
-TEST(LinkDetectorLinuxTest, LooksForNoHostBehindASchemeThatLeadsNowhere) {
+TEST(LinkDetectorLinuxTest, ASchemeWithoutAHostSpoilsTheTextUpToTheNextBlank) {
   constexpr LinkCase kCases[] = {
       {"https://[::1,h.com", "none"},
       {"https://,h.com", "none"},
@@ -294,7 +294,7 @@ TEST(LinkDetectorLinuxTest, LoneSurrogatesEndLinks) {
   EXPECT_EQ(foundLink(text, text.size()), "http://h/a at 0+10");
 }
 
-TEST(LinkDetectorLinuxTest, ALetterThatMacosCountsAsTwoShortensTheRange) {
+TEST(LinkDetectorLinuxTest, ALetterThatMacosCountsAsTwoLimitsTheRange) {
   EXPECT_FALSE(isValidURLAddress("https://h.example/\u0e2a\u0e33", *makeLinkDetector()));
   EXPECT_TRUE(isValidURLAddress("https://h.example/\u0e2a", *makeLinkDetector()));
 }

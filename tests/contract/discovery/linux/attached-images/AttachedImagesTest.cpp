@@ -70,7 +70,7 @@ TEST(AttachedImagesToolTest, PrintsAPropertyListOrATable) {
   EXPECT_FALSE(readPropertyList(table.output).value);
 }
 
-TEST(AttachedImagesToolTest, TellsThatItCannotPrint) {
+TEST(AttachedImagesToolTest, ReportsThatItCannotPrint) {
   for (const char* arguments : {"info -plist >/dev/full", "info >/dev/full", "--help >/dev/full",
                                 "info >&-", "--help >&-"}) {
     const ToolRun run = runTool(arguments);
@@ -79,7 +79,7 @@ TEST(AttachedImagesToolTest, TellsThatItCannotPrint) {
   }
 }
 
-TEST(AttachedImagesToolTest, TellsThatItsReaderHasGone) {
+TEST(AttachedImagesToolTest, ReportsThatItsReaderHasGone) {
   const ScratchFolder folder;
   const std::string commands = "cd '" + folder.path() +
                                "'; (while [ ! -e gone ]; do sleep 0.01; done; '" ATTACHED_IMAGES

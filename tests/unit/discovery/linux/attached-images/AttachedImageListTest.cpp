@@ -37,7 +37,7 @@ const LoopDevice kPlain = {"/a.dmg", {{"loop0", "7:0"}}};
 const LoopDevice kPartitioned = {"/b.dmg",
                                  {{"loop1", "7:1"}, {"loop1p1", "259:0"}, {"loop1p2", "259:1"}}};
 
-TEST(AttachedImageListTest, BringsImagesAndMountsTogether) {
+TEST(AttachedImageListTest, ListsTheMountsOfEachImage) {
   const Case cases[] = {
       {{}, {}, ""},
       {{}, {mountOf("7:0", "/dev/loop0", "/mnt")}, ""},
@@ -76,7 +76,7 @@ TEST(AttachedImageListTest, BtrfsHasNumbersOfItsOwnAndIsFoundBySource) {
   EXPECT_EQ(described(attachedImages({kPlain}, {btrfs})), "/a.dmg: /dev/loop0=/btrfs\n");
 }
 
-TEST(AttachedImageListTest, WhatIsOnlyNamedAfterTheDeviceIsNoMountOfIt) {
+TEST(AttachedImageListTest, AMountNamedAfterTheDeviceDoesNotCount) {
   for (const char* type : {"tmpfs", "overlay", "squashfs"}) {
     const Mount mount = mountOf("0:45", "/dev/loop0", "/mnt", type);
     EXPECT_EQ(described(attachedImages({kPlain}, {mount})), "/a.dmg: /dev/loop0=-\n") << type;
@@ -104,7 +104,7 @@ TEST(AttachedImageListTest, OneImageMayBeAttachedTwice) {
             "/a.dmg: /dev/loop0=-\n/a.dmg: /dev/loop5=/mnt\n");
 }
 
-TEST(AttachedImageListTest, ManyImagesAreNoMatter) {
+TEST(AttachedImageListTest, ManyImagesTakeLittleTime) {
   constexpr int kMany = 10'000;
   std::vector<LoopDevice> loops;
   std::vector<Mount> mounts;

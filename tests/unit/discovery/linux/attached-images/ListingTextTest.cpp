@@ -59,7 +59,7 @@ TEST(ListingTextTest, MountPointsAreReadBackAsTheyAre) {
   }
 }
 
-TEST(ListingTextTest, MountPointsThatAreNoTextAreFoundAllTheSame) {
+TEST(ListingTextTest, MountPointsThatAreNotUtf8AreFound) {
   const std::string mountPoint = "/mnt/\xff\xc3";
   EXPECT_EQ(mountPointReadBack(mountPoint), "/mnt/\ufffd\ufffd");
   EXPECT_TRUE(canonicallyEqual(mountPointReadBack(mountPoint), mountPoint));

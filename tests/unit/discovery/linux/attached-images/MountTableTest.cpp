@@ -80,7 +80,7 @@ TEST(MountTableTest, FieldsMayBeEmpty) {
               ElementsAre(Mount{52, 27, "0:9", "/", "/mnt", "tmpfs", ""}));
 }
 
-TEST(MountTableTest, PassesOverOtherLines) {
+TEST(MountTableTest, SkipsOtherLines) {
   for (const char* line : {"", "\n\n", " ", "52", "52 27 7:0 / /mnt ro", "52 27 7:0 / - a b c",
                            "52 27 7:0 / /mnt ro shared:1 squashfs /dev/loop0 ro",
                            "x 27 7:0 / /mnt ro - squashfs /dev/loop0 ro",
