@@ -4,6 +4,7 @@ import os
 import pathlib
 
 from desktop.attached_image import NotAllowed, attached
+from desktop.processes import end_descendants
 from table import FLOOR, OURS, Figure, Unavailable, ahead_of, at_most, beside
 from windows import APPLICATION, BARE_WINDOW, BUILD, PROGRAM, session
 
@@ -36,6 +37,7 @@ def turns(programs, rounds, measure):
     values, missing = {}, {}
     for _ in range(rounds):
         for name, command in programs.items():
+            end_descendants()  # what a peer has left behind
             if name in missing:
                 continue
             try:

@@ -15,7 +15,6 @@ from Xlib import XK, X, display, error
 from Xlib.ext import damage, xtest
 from Xlib.protocol.event import ClientMessage
 
-from desktop.processes import end_descendants
 from table import Unavailable
 
 QUIET = 0.25  # a caret blinks more slowly
@@ -98,7 +97,6 @@ class Session:
         os.waitpid(self._process, 0)
         os.close(self._ended)
         self._display.close()
-        end_descendants()
 
     def _await(self, condition):
         """Waits until the condition holds and nothing has been painted for a while."""
