@@ -1,4 +1,5 @@
-# make-image's steps on Linux. Its options are variables. shellcheck shell=bash disable=SC2154
+# make-image's steps on Linux. Its options are variables.
+# shellcheck shell=bash disable=SC2154
 
 for tool in xorriso 7zz python3; do
   command -v "$tool" >/dev/null || fail "$tool is missing; script/bootstrap installs it"

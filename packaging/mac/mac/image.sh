@@ -1,4 +1,5 @@
-# make-image's steps on macOS. Its options are variables. shellcheck shell=bash disable=SC2154
+# make-image's steps on macOS. Its options are variables.
+# shellcheck shell=bash disable=SC2154
 
 attached=''
 
