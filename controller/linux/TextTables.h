@@ -29,7 +29,7 @@ std::span<const TextTable> textTables();
 ///
 ///     {"de-AT"}         -> de
 ///     {"pt-PT"}         -> pt-BR
-///     {"nl", "fr"}      -> fr
+///     {"la", "fr"}      -> fr
 ///     {"zh-TW"}         -> null
 const TextTable* preferredTable(const QStringList& languages);
 

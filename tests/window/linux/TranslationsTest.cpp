@@ -17,7 +17,7 @@ TEST(TranslationsTest, TheFirstLanguageThatThereIsCounts) {
   const std::vector<std::pair<QStringList, std::string>> cases = {
       {{QStringLiteral("de-AT")}, "de"},
       {{QStringLiteral("de-DE"), QStringLiteral("de")}, "de"},
-      {{QStringLiteral("nl-NL"), QStringLiteral("fr")}, "fr"},
+      {{QStringLiteral("la-VA"), QStringLiteral("fr")}, "fr"},
       {{QStringLiteral("pt-PT")}, "pt-BR"},
       {{QStringLiteral("zh-CN")}, "zh-Hans"},
       {{QStringLiteral("zh-SG")}, "zh-Hans"},
@@ -33,7 +33,7 @@ TEST(TranslationsTest, TheFirstLanguageThatThereIsCounts) {
 }
 
 TEST(TranslationsTest, EveryTableHasEveryKey) {
-  ASSERT_EQ(textTables().size(), 8);
+  ASSERT_GE(textTables().size(), 8);
   for (const TextTable& table : textTables()) {
     EXPECT_EQ(table.entries.size(), textTables().front().entries.size()) << table.language;
   }
