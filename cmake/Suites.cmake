@@ -48,8 +48,8 @@ endfunction()
 # processors.
 function(launcher_build_step name)
   if(NOT TEST build.${name})
-    add_test(NAME build.${name} COMMAND ${ARGN} WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}")
-    set_tests_properties(build.${name} PROPERTIES 
+    add_test(NAME build.${name} COMMAND ${ARGN} WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}" ${only})
+    set_tests_properties(build.${name} PROPERTIES
       FIXTURES_SETUP ${name} RESOURCE_LOCK build TIMEOUT 3600)
   endif()
 endfunction()

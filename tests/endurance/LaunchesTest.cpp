@@ -53,6 +53,12 @@ class LaunchesTest : public testing::Test {
     std::filesystem::create_directories(folder_.file("bin"));
     std::filesystem::copy_file(TEST_CHILDREN "/recording-viewer", folder_.file("bin/vexlink"));
   }
+
+  /// Waits for the end of what an earlier test started.
+  void SetUp() override {
+    ASSERT_TRUE(eventually([] { return Possessions::counted().isQuiet(); }))
+        << Possessions::counted();
+  }
   void TearDown() override { control_.terminateProc(); }
 
   bool viewerRuns() const {

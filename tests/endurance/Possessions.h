@@ -17,7 +17,6 @@ struct Possessions {
   std::ptrdiff_t threads = 0;
   std::ptrdiff_t children = 0;  ///< zombies included
   std::ptrdiff_t temporaryFiles = 0;
-  std::ptrdiff_t attachedImages = 0;
   std::ptrdiff_t mounts = 0;
 
   static Possessions counted() {
@@ -25,15 +24,17 @@ struct Possessions {
             .threads = entries("/proc/self/task"),
             .children = words("/proc/thread-self/children"),
             .temporaryFiles = entries(std::filesystem::temp_directory_path()),
-            .attachedImages = attached(),
             .mounts = lines("/proc/self/mountinfo")};
   }
+
+  /// Whether nothing that an earlier test started goes on.
+  bool isQuiet() const { return threads == 1 && children == 0; }
 
   friend bool operator==(const Possessions&, const Possessions&) = default;
   friend std::ostream& operator<<(std::ostream& out, const Possessions& all) {
     return out << all.descriptors << " descriptors, " << all.threads << " threads, " << all.children
-               << " children, " << all.temporaryFiles << " temporary files, " << all.attachedImages
-               << " attached images, " << all.mounts << " mounts";
+               << " children, " << all.temporaryFiles << " temporary files, " << all.mounts
+               << " mounts";
   }
 
  private:
@@ -50,14 +51,6 @@ struct Possessions {
     std::ifstream file(path);
     std::ptrdiff_t count = 0;
     for (std::string line; std::getline(file, line);) ++count;
-    return count;
-  }
-
-  static std::ptrdiff_t attached() {
-    std::ptrdiff_t count = 0;
-    for (const auto& device : std::filesystem::directory_iterator("/sys/class/block")) {
-      if (std::filesystem::exists(device.path() / "loop/backing_file")) ++count;
-    }
     return count;
   }
 };

@@ -242,13 +242,18 @@ struct EmptyTable : FakeProcessTable {
   int fetch(std::byte* /*buffer*/, std::size_t& /*length*/) const override { return 0; }
 };
 
+struct CountedProcess : RunningProcess {
+  explicit CountedProcess(std::atomic<int>& counter) : terminations(counter) {}
+  void terminate() override { ++terminations; }
+
+  std::atomic<int>& terminations;
+};
+
 struct ForgetfulStarter : ProgramStarter {
   std::atomic<int> terminations = 0;
 
   std::shared_ptr<RunningProcess> start(const std::string& /*path*/, const Texts&) override {
-    auto process = std::make_shared<FakeRunningProcess>();
-    process->onTerminate = [this] { ++terminations; };
-    return process;
+    return std::make_shared<CountedProcess>(terminations);
   }
 };
 
