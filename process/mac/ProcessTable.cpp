@@ -26,7 +26,7 @@ class KernelProcessTable : public ProcessTable {
   }
 
   ProcessRecord read(const std::byte* record) const override {
-    kinfo_proc process;
+    kinfo_proc process{};
     std::memcpy(&process, record, sizeof(process));
     ProcessRecord read{process.kp_proc.p_pid, {}};
     std::copy(std::begin(process.kp_proc.p_comm), std::end(process.kp_proc.p_comm),

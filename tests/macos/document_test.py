@@ -26,7 +26,7 @@ def calls():
             yield name
 
 
-def tests():
+def names_of_tests():
     """Every test as Suite.Name, and every suite."""
     for path in (ROOT / "tests").rglob("*Test.*"):
         for suite, name in re.findall(r"^TEST(?:_F|_P)?\((\w+), (\w+)\)", path.read_text(), re.M):
@@ -43,7 +43,7 @@ class Document(unittest.TestCase):
     def test_every_test_exists(self):
         named = set(re.findall(r"\b\w+Test\b(?:\.\w+)?", DOCUMENT))
         self.assertIn("ProcessTableTest", named)
-        self.assertEqual(named - set(tests()), set())
+        self.assertEqual(named - set(names_of_tests()), set())
 
 
 if __name__ == "__main__":
