@@ -1,5 +1,5 @@
-# The programs inside the bundle, in the folder ${bundle_programs}: the viewer, and those that a
-# platform adds with bundle_program.
+# The programs inside the bundle, in the folder ${bundle_programs}. The viewer is one; a platform adds
+# others with bundle_program.
 
 # Puts an executable there under the name that the launcher looks for.
 function(bundle_program name file)

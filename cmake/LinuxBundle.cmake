@@ -26,8 +26,8 @@ if(TARGET attached-images)
   bundle_program(attached-images "$<TARGET_FILE:attached-images>")
 endif()
 
-# Lets a program, and every library that it loads, look for libraries in the bundle first. That
-# takes a run path of the older kind: the newer one counts for the program only.
+# Lets a program, and every library that it loads, look for libraries in the bundle first. This
+# needs a run path of the older kind: the newer kind does not apply to the libraries of libraries.
 function(look_for_libraries_in program folder)
   set_target_properties(${program} PROPERTIES BUILD_RPATH "$ORIGIN/${folder}")
   target_link_options(${program} PRIVATE -Wl,--disable-new-dtags -Wl,--as-needed)

@@ -28,7 +28,7 @@ function(launcher_room name)
   endif()
 endfunction()
 
-# Adds a folder's sources to a room's library; without a folder, this folder's.
+# Adds a folder's sources to a room's library. Without a folder, adds those of this folder.
 #
 #   launcher_sources(NAME [FOLDER/...])
 function(launcher_sources name)
@@ -42,7 +42,7 @@ function(launcher_sources name)
   endforeach()
 endfunction()
 
-# Finds a folder's tests for this platform: all but the other platform's.
+# Finds a folder's tests for this platform: leaves out those of the other platform.
 #
 #   launcher_tests(VARIABLE FOLDER)
 function(launcher_tests variable folder)

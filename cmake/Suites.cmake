@@ -1,8 +1,8 @@
 # A suite is a CTest label: ctest -L '^unit$' builds what the suite needs and runs it.
 #
-#   launcher_test(SUITE [NAME name]   tells it from the suite's other tests
+#   launcher_test(SUITE [NAME name]   names this test if the suite has several
 #                 [APART | DISPLAY]   apart from the machine's processes; DISPLAY adds a display
-#                 [BY_NAME]           takes minutes: only if the suite is named (ctest -C by-name)
+#                 [BY_NAME]           takes minutes: runs only if it is named (ctest -C by-name)
 #                 [BUILDS target...]  the targets that it needs in this build
 #                 [PRESET preset]     needs this preset's build with the targets that it names
 #                 [ENVIRONMENT variable=value...]
@@ -29,7 +29,7 @@ function(launcher_test suite)
 
   foreach(target IN LISTS test_BUILDS)
     launcher_build_step(${target} "${CMAKE_COMMAND}" --build "${CMAKE_BINARY_DIR}" --target ${target})
-    set_tests_properties(build.${target} PROPERTIES COST 1000)  # before those of other presets
+    set_tests_properties(build.${target} PROPERTIES COST 1000)  # runs before the builds of other presets
   endforeach()
   if(test_PRESET)
     launcher_build_step(${test_PRESET} "${CMAKE_COMMAND}" --workflow --preset ${test_PRESET})
@@ -44,8 +44,8 @@ function(launcher_test suite)
     ENVIRONMENT "GTEST_OUTPUT=xml:${record};GTEST_BRIEF=1;PYTEST_ADDOPTS=--junitxml=${record};${test_ENVIRONMENT}")
 endfunction()
 
-# A test that builds something; the tests that need it run after it. One at a time takes all the
-# processors.
+# A test that builds something; the tests that need it run after it. Builds run one at a time, each
+# on all processors.
 function(launcher_build_step name)
   if(NOT TEST build.${name})
     add_test(NAME build.${name} COMMAND ${ARGN} WORKING_DIRECTORY "${CMAKE_SOURCE_DIR}" ${only})

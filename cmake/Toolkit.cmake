@@ -1,4 +1,4 @@
-# launcher_toolkit is the window toolkit: AppKit on macOS, Qt on Linux. Without it on the machine
+# launcher_toolkit is the window toolkit: AppKit on macOS, Qt on Linux. If the machine lacks it,
 # there is no such target, but the logic and its tests still build.
 
 if(APPLE)

@@ -8,8 +8,8 @@ target_compile_options(launcher_warnings INTERFACE
   -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Wnull-dereference
   -Wreserved-identifier $<$<BOOL:${LAUNCHER_WARNINGS_AS_ERRORS}>:-Werror>)
 
-# Our designated initialisers name only what differs from the defaults. Newer compilers warn of
-# that.
+# Our designated initialisers name only the members that differ from the defaults. Newer compilers
+# warn about that.
 include(CheckCXXCompilerFlag)
 check_cxx_compiler_flag(-Wmissing-designated-field-initializers WARNS_OF_DEFAULTS)
 if(WARNS_OF_DEFAULTS)

@@ -1,4 +1,4 @@
-# Every suite. CONTRIBUTING.md says what each asks.
+# Every suite. CONTRIBUTING.md says what each one checks.
 
 set(lint "${CMAKE_SOURCE_DIR}/tests/lint")
 launcher_python_test(strings tests/strings)
@@ -14,7 +14,7 @@ if(TARGET qt-window-tests)
   launcher_test(window NAME qt BUILDS qt-window-tests COMMAND "$<TARGET_FILE:qt-window-tests>")
 endif()
 
-# The others drive an X display, or look from Linux at what a Mac meets by itself.
+# The suites below drive an X display, or check on Linux what a Mac checks by itself.
 if(APPLE)
   return()
 endif()
@@ -31,7 +31,7 @@ launcher_python_test(bundle tests/portable BUILDS application)
 launcher_test(portable BY_NAME BUILDS application COMMAND "${CMAKE_SOURCE_DIR}/tests/portable/run")
 launcher_python_test(macos tests/macos)
 
-# The macOS sources on GNUstep's Foundation, but for the tests that it fails by itself.
+# The macOS sources on GNUstep's Foundation, without the tests that GNUstep itself fails.
 if(TARGET appkit_stand_in)
   file(STRINGS foundation/beyond-gnustep beyond_gnustep REGEX "^[A-Z]")
   list(TRANSFORM beyond_gnustep REPLACE " .*" "")
@@ -41,8 +41,8 @@ if(TARGET appkit_stand_in)
             "--gtest_filter=-${beyond_gnustep}")
 endif()
 
-# The tests once more, in builds that watch every access to memory and between threads. Where the
-# platform's libraries let go of nothing at their end, that is not ours to report.
+# Runs the tests again in builds that watch memory and threads. The platform's libraries free little
+# at exit; do not report those leaks, since they are not ours.
 set(asan "ASAN_OPTIONS=detect_leaks=1"
   "LSAN_OPTIONS=suppressions=${CMAKE_CURRENT_SOURCE_DIR}/sanitizers/leaks.txt:print_suppressions=0")
 set(tsan "TSAN_OPTIONS=suppressions=${CMAKE_CURRENT_SOURCE_DIR}/sanitizers/races.txt")
@@ -53,8 +53,8 @@ foreach(preset asan tsan)
   endforeach()
 endforeach()
 
-# Toolkits let go of little at their end, and are not built to be watched: of their threads only the
-# locks are seen.
+# Toolkits free little at exit, so do not look for leaks. Toolkits are not built with sanitizers, so
+# the thread sanitizer sees only the locks of their threads.
 set(asan ASAN_OPTIONS=detect_leaks=0)
 set(tsan TSAN_OPTIONS=ignore_noninstrumented_modules=1)
 foreach(preset asan tsan)
@@ -64,7 +64,8 @@ foreach(preset asan tsan)
   endforeach()
 endforeach()
 
-# The same inputs each time, so that a change is judged by what it changes; script/fuzz makes up others.
+# Use the same inputs each time, so that only a change of the code changes the result. script/fuzz makes
+# up others.
 file(GLOB targets CONFIGURE_DEPENDS fuzz/*.cpp)
 foreach(source IN LISTS targets)
   cmake_path(GET source STEM target)
@@ -73,6 +74,6 @@ foreach(source IN LISTS targets)
             -seed=1 -runs=30000)
 endforeach()
 
-# A first run knows not yet what takes long; what only waits is done while others are built.
+# A first run does not know yet which tests are slow. Start those that mostly wait during the builds.
 set_tests_properties(e2e PROPERTIES COST 900)
 set_tests_properties(lint.tidy PROPERTIES COST 800)

@@ -1,5 +1,5 @@
-"""Takes the figures of the named groups, or of all, and shows the table; see script/bench. Runs apart
-from the machine, with a display."""
+"""Takes the figures of the named groups, or of all groups, and shows the table; see script/bench. Needs
+a display, and runs apart from the machine's processes."""
 
 import os
 import pathlib
@@ -27,7 +27,7 @@ def sizes():
             for what, those in files.items()]
 
 
-# Every group's figures, taken in the given home folder.
+# For each group, the functions that take its figures in the given home folder.
 GROUPS = {
     "start": [starts.warm],
     "image": [starts.from_image],

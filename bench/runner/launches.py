@@ -28,7 +28,7 @@ class Viewers:
         self._seen = 0
 
     def next(self):
-        """The next viewer's start time and process."""
+        """The start time and the process of the next viewer."""
         def lines():
             found = self._record.read_text().splitlines() if self._record.exists() else []
             return found[self._seen:]
@@ -86,7 +86,7 @@ def run_of(tool):
 
 
 def found(home):
-    """A real image, mounted, and listed by the real tool."""
+    """Mounts a real image and lets the real tool list it."""
     ours, floor = [], []
     with tempfile.TemporaryDirectory() as folder:
         image = shutil.copy(IMAGE, folder)

@@ -1,4 +1,4 @@
-"""The small benchmarks, by Google Benchmark, and those that depend on the number of processes."""
+"""The small benchmarks, which use Google Benchmark, and those that depend on the number of processes."""
 
 import contextlib
 import json
@@ -85,14 +85,14 @@ def run_of(*command):
 
 
 def keystrokes(program, home):
-    """Milliseconds from a key to the painted change, with a whole location in the field."""
+    """Milliseconds from a key to the painted change, while the field holds a whole location."""
     with session(program, home=home) as (running, _):
         running.type("https://server.example/path")
         return [1e3 * running.key(key) for key in KEYS]
 
 
 def among(count, home):
-    """A keystroke and a process search among the given number of processes."""
+    """Times a keystroke and a process search among the given number of processes."""
     with crowd(count):
         ours, bare = ([value for _ in range(3) for value in keystrokes(program, home)]
                       for program in (APPLICATION / PROGRAM, BARE_WINDOW))

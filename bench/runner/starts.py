@@ -1,4 +1,4 @@
-"""The start, warm and cold, its memory, and the end."""
+"""The start, warm and cold, the memory after it, and the quit."""
 
 import os
 import pathlib
@@ -32,12 +32,12 @@ def home_without_effects(folder):
 
 
 def turns(programs, rounds, measure):
-    """Runs programs in turns. Gives their values by name, and the reasons of those that failed and
-    dropped out."""
+    """Runs programs in turns. Returns their values by name. A program that fails drops out; returns the
+    reasons, too."""
     values, missing = {}, {}
     for _ in range(rounds):
         for name, command in programs.items():
-            end_descendants()  # what a peer has left behind
+            end_descendants()  # a peer may leave processes behind
             if name in missing:
                 continue
             try:

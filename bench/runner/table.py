@@ -13,8 +13,8 @@ class Unavailable(Exception):
 
 @dataclasses.dataclass
 class Figure:
-    """Values by name, the n-th of each from the n-th round; the aim, as a text and a check; and the
-    reasons why a peer has no values."""
+    """Values by name, the n-th value from the n-th round; the aim, as a text and a check; and the reasons
+    why a peer has no values."""
 
     what: str
     unit: str
@@ -31,7 +31,7 @@ class Figure:
 
 
 def attempted(what, take):
-    """The figures of take(), or one with the reason if it fails."""
+    """The figures of take(). If it fails, one figure with the reason."""
     try:
         return take()
     except Exception as reason:

@@ -1,6 +1,7 @@
 """Programs with a window, driven and timed on an X display. Times are seconds of the monotonic clock.
 
-A window counts as painted when nothing more is painted for a while, unless as narrow as a caret.
+A window counts as painted when nothing more is painted for a while. Anything as narrow as a caret
+does not count.
 """
 
 import contextlib
@@ -31,7 +32,7 @@ class Session:
 
     def __init__(self, command, home):
         self._display = display.Display()
-        self._display.set_error_handler(lambda *_: None)  # a window that has gone meanwhile
+        self._display.set_error_handler(lambda *_: None)  # a window may have gone meanwhile
         self._root = self._display.screen().root
         self._display.damage_query_version()  # the server answers nothing without it
         self._root.damage_create(damage.DamageReportRawRectangles)
@@ -119,7 +120,7 @@ class Session:
                 self._paintings.append((now, event.area))
 
     def _last_painting(self):
-        """When the window was painted last; None before."""
+        """When the window was last painted; None if it has not been painted yet."""
         self._window = self._window or self._managed_window()
         if self._window is None:
             return None

@@ -1,4 +1,4 @@
-# Sourced by every script in the project's root: the scripts' messages.
+# Sourced by every script in script/: the messages that they share.
 
 say() { printf '%s\n' "$*"; }
 

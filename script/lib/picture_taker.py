@@ -32,7 +32,7 @@ LOCALES = {"zh-Hans": "zh_CN"}
 
 
 def know_location():
-    """Gives this machine, as far as it is apart, the location's address without a server."""
+    """Writes the location's address into the host names, so that no name server is needed."""
     with tempfile.NamedTemporaryFile("w", prefix="hosts-", dir=BUILD) as hosts:
         print("127.0.0.1 localhost", LOCATION.removeprefix("https://"), file=hosts, flush=True)
         subprocess.run(["mount", "--bind", hosts.name, "/etc/hosts"], check=True)
@@ -61,7 +61,7 @@ def still_picture(window):
 
 
 def save(picture, file):
-    """Writes a small file, with a border, since the window has no frame here."""
+    """Writes the picture to a small file. Adds a border, since the window has no frame here."""
     subprocess.run(["convert", "ppm:-", "-bordercolor", "#c4c4c4", "-border", "1", "+dither",
                     "-colors", "256", "-strip", "-define", "png:compression-level=9",
                     "-define", "png:exclude-chunk=date,time", f"PNG8:{file}"],
@@ -108,7 +108,7 @@ def take_typed(language, folder):
         press("ctrl+a", "BackSpace")
         launcher.wait_until(lambda: launcher.address.text == "", "the address is empty")
 
-        # The launcher waits for a viewer that it did not start. Meanwhile the status line stays.
+        # The launcher waits for a viewer that it did not start. Until then the status line stays.
         with running(VIEWER, "-l", "", "-i", "", "-r", "") as other:
             wait_until(lambda: windows_of(other.pid), "the other viewer is shown")
             launcher.click_on(launcher.button)

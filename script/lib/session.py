@@ -1,4 +1,4 @@
-"""The session of script/run: the launcher from a downloaded image, and nothing left behind."""
+"""The session of script/run: runs the launcher from a downloaded image and leaves nothing behind."""
 
 import contextlib
 import os
@@ -40,8 +40,8 @@ def unwind_on_signals():
 
 
 def program_to_start(stack):
-    """The program in the downloaded image's volume, or the one in the build folder if images cannot
-    be attached; and whether it is in an image."""
+    """Returns a program and whether it is in an image: the one in the downloaded image's volume or, if
+    images cannot be attached, the one in the build folder."""
     address = stack.enter_context(served(IMAGE))
     folder = stack.enter_context(tempfile.TemporaryDirectory(prefix="download-", dir=BUILD))
     file = download(address, folder)
@@ -69,7 +69,7 @@ def started(program):
 
 def take_picture(launcher, in_image, file):
     """Takes a picture once the window is shown and has found its location, if there is one."""
-    from desktop.screen_reader import FIELD, program  # this needs the bus, which runs by now
+    from desktop.screen_reader import FIELD, program  # needs the bus, which runs only by now
 
     def ready():
         if launcher.poll() is not None:

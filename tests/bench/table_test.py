@@ -1,4 +1,4 @@
-"""What script/bench makes of what it has measured."""
+"""What script/bench computes from its measurements."""
 
 import pathlib
 import sys

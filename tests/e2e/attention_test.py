@@ -1,4 +1,4 @@
-"""An alert is seen, wherever the person is by then."""
+"""The person sees an alert, whatever window is in front by then."""
 
 import subprocess
 
@@ -19,14 +19,14 @@ def switch_to_desktop(number):
 
 class AttentionTest(LauncherTest):
     def look_up(self):
-        """A lookup is under way on return; it fails as soon as it is answered."""
+        """Starts a lookup that fails as soon as it is answered. Returns once it is under way."""
         self.start_with_slow_resolver()
         self.enter_location("https://nohost.invalid")
         self.press_launch()
         self.wait_for_lookup()
 
     def other_window(self):
-        """The window of a program that has come to the front."""
+        """Brings the window of another program to the front and returns it."""
         program = subprocess.Popen(["xev", "-event", "structure", "-name", OTHER],
                                    stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
         self.addCleanup(program.wait)
@@ -41,7 +41,7 @@ class AttentionTest(LauncherTest):
         return other
 
     def alert(self):
-        """The alert's window, once it is there."""
+        """Lets the lookup fail and returns the alert's window."""
         self.answers.open()
         return wait_until(lambda: windows_of(self.process.pid)[1:], "an alert is shown")[0]
 

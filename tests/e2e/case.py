@@ -1,4 +1,4 @@
-"""What the end-to-end tests share: the launcher as a person meets it, and nothing left afterwards."""
+"""What the end-to-end tests share: they use the launcher as a person does, and it leaves nothing."""
 
 import contextlib
 import os
@@ -46,7 +46,7 @@ class LauncherTest(unittest.TestCase):
         shutil.copytree(BUILD / APPLICATION, self.application, symlinks=True)
         self.put_viewer_in_place()
 
-    # What is set up.
+    # Setting up.
 
     @property
     def viewer(self):
@@ -56,7 +56,7 @@ class LauncherTest(unittest.TestCase):
         shutil.copy(doubles.DOUBLE, self.viewer)
 
     def mounted_application(self):
-        """The application in the volume of a downloaded image, and where that was downloaded."""
+        """The application in the volume of a downloaded image, and the address of the download."""
         image = self.folder / "VorxLauncher.img"
         subprocess.run([ROOT / "packaging/linux/make-image", self.application, image], check=True,
                        stdout=subprocess.DEVNULL)
@@ -86,7 +86,7 @@ class LauncherTest(unittest.TestCase):
         self.launcher = Launcher(self.process, shown_in)
 
     def start_with_slow_resolver(self):
-        """Starts the launcher; a name is looked up as soon as the gate `answers` is opened."""
+        """Starts the launcher. Its lookups wait until the gate `answers` is opened."""
         self.answers = doubles.Gate(self.folder / "answers")
         self.start(environment={"LD_PRELOAD": str(doubles.SLOW_RESOLVER),
                                 "ANSWERS": str(self.answers.file)})
@@ -102,11 +102,11 @@ class LauncherTest(unittest.TestCase):
         return double.pid
 
     def start_with_companions(self, **environment):
-        """Starts the launcher, whose signals are recorded, beside two companions."""
+        """Starts the launcher beside two companions, and records the signals that it sends."""
         self.companions = sorted([self.start_double("vexwatch"), self.start_double("vexwatch")])
         self.start(environment={"LD_PRELOAD": str(doubles.KILL_RECORDER), **environment})
 
-    # What is done.
+    # What the person does.
 
     def enter_location(self, location=LOCATION):
         self.launcher.enter(self.launcher.location, location)
@@ -115,7 +115,7 @@ class LauncherTest(unittest.TestCase):
         self.launcher.enter(self.launcher.address, address)
 
     def enter_valid(self):
-        """Types a location, and an address so that nothing is looked up."""
+        """Types a location and an address. With an address nothing is looked up."""
         self.enter_location()
         self.enter_address("10.0.0.5")
         wait_until(lambda: self.launcher.button.enabled, "the button is enabled")
@@ -124,14 +124,14 @@ class LauncherTest(unittest.TestCase):
         self.launcher.click_on(self.launcher.button)
 
     def launch(self):
-        """Launches what is valid; gives the viewer, which runs."""
+        """Enters a valid location and launches it. Returns the running viewer."""
         known = doubles.running("vexlink")
         self.enter_valid()
         self.press_launch()
         return self.wait_for_viewer(*known)
 
     def press_in_vain(self):
-        """Presses the button where no viewer can be started: all is soon as it was."""
+        """Presses the button when no viewer can be started. The window is soon as before."""
         with screen_reader.Announcements() as announcements:
             self.press_launch()
             wait_until(lambda: announcements.heard()[1:], "the status line has said two things")
@@ -144,7 +144,7 @@ class LauncherTest(unittest.TestCase):
         self.launcher.on_display.close()
         self.assert_ends()
 
-    # What is seen.
+    # What the person sees.
 
     def colour(self, field):
         """The colour of most of a field."""
@@ -166,7 +166,7 @@ class LauncherTest(unittest.TestCase):
         self.assertEqual(self.process.wait(timeout=60), status)
 
     def assert_quit_sequence(self, viewer=None):
-        """The viewer and the first companion have been asked to end, once; and nobody else."""
+        """The launcher has asked the viewer and the first companion to end, once each, and no others."""
         asked = [self.companions[0]] if viewer is None else [viewer, self.companions[0]]
         for double in asked:
             self.record.wait_for(double, "SIGTERM")
@@ -174,11 +174,11 @@ class LauncherTest(unittest.TestCase):
         self.assertEqual(sent, [f"kill:{double}" for double in asked])
         self.assertEqual(doubles.running("vexwatch"), self.companions[1:])
 
-    # What is left.
+    # Cleaning up.
 
     @staticmethod
     def end(process):
-        """Asks the launcher to quit; one that does not is ended, and that is a failure."""
+        """Asks the launcher to quit. If it does not, kills it and fails."""
         process.terminate()
         try:
             process.wait(timeout=60)

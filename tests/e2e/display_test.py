@@ -1,4 +1,4 @@
-"""A display that goes away."""
+"""The display goes away."""
 
 import contextlib
 import os

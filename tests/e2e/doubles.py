@@ -16,7 +16,7 @@ KILL_RECORDER = BUILT / "libkill-recorder.so"
 
 
 class Record:
-    """What the doubles have met: a list of process and event, in the order of the events."""
+    """What has happened to the doubles: pairs of process and event, in order."""
 
     def __init__(self, file):
         self.file = file
@@ -46,7 +46,7 @@ class Gate:
         os.mkfifo(file)
 
     def open(self):
-        """Lets the one that waits there go on; waits for it to come."""
+        """Waits until a double waits there, and lets it go on."""
         def somebody_waits():
             with contextlib.suppress(OSError):
                 os.close(os.open(self.file, os.O_WRONLY | os.O_NONBLOCK))
@@ -56,7 +56,7 @@ class Gate:
 
 
 def running(name):
-    """The processes with a command name, by rising number; zombies are none."""
+    """The processes with a command name, in ascending order, without zombies."""
     found = []
     for stat in pathlib.Path("/proc").glob("[0-9]*/stat"):
         try:
@@ -70,7 +70,7 @@ def running(name):
 
 
 def children_of(process):
-    """The children that a process has, zombies included."""
+    """The children of a process, zombies included."""
     threads = pathlib.Path(f"/proc/{process}/task").glob("*/children")
     return [int(child) for children in threads for child in children.read_text().split()]
 
@@ -93,7 +93,7 @@ def address_of(host):
 
 
 def start(name, record, folder):
-    """Starts a double under a name; it is running and listening on return."""
+    """Starts a double under a name. Returns once it runs and listens."""
     program = folder / name
     if not program.exists():
         shutil.copy(DOUBLE, program)

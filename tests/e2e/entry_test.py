@@ -1,4 +1,4 @@
-"""What is typed is judged with every key."""
+"""The launcher judges the input with every key."""
 
 from case import GREEN, RED, WHITE, LauncherTest
 from desktop.launcher import NO_URL, READY

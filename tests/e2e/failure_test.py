@@ -11,7 +11,7 @@ UNKNOWN = "https://nohost.invalid"
 
 class FailureTest(LauncherTest):
     def fail_to_look_up(self):
-        """Gives the alert, which is shown."""
+        """Returns the alert once it is shown."""
         self.start()
         self.enter_location(UNKNOWN)
         self.launcher.wait_for_status(READY)

@@ -1,4 +1,4 @@
-"""A home folder in which nothing can be kept."""
+"""The home folder cannot store anything."""
 
 import contextlib
 import subprocess
@@ -19,7 +19,7 @@ class HomeTest(LauncherTest):
         return folder
 
     def assert_works(self, home):
-        """With the folder for temporary files in the same place."""
+        """The launcher works, with the folder for temporary files in the same place."""
         self.start(environment={"HOME": str(home), "TMPDIR": str(home)})
         self.launch()
         self.quit()

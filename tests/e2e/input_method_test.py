@@ -1,4 +1,4 @@
-"""Letters that no key has."""
+"""Letters for which there is no key."""
 
 import os
 import subprocess
@@ -43,7 +43,7 @@ class InputMethodTest(LauncherTest):
         self.start_input_method()
         self.start(environment={"QT_IM_MODULE": "ibus"})
 
-        # The input method joins in a while after the window is shown; until then keys are just keys.
+        # The input method starts a while after the window is shown. Until then it gets no keys.
         def composed():
             press("ctrl+a", "BackSpace", "dead_acute", "e")
             wait_until(lambda: self.launcher.location.text, "the keys have arrived")

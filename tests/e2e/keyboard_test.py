@@ -1,4 +1,4 @@
-"""All by the keyboard."""
+"""The keyboard alone is enough."""
 
 import subprocess
 
@@ -11,7 +11,7 @@ LONG_LOCATION = LOCATION + "/a/folder" * 30
 
 
 def put_on_clipboard(text):
-    """As another program does, which goes on offering it until somebody else does."""
+    """Offers the text as another program does: until somebody else offers one."""
     subprocess.run(["xclip", "-selection", "clipboard", "-in"], input=text, text=True, check=True,
                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 

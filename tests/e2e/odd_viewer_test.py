@@ -1,4 +1,4 @@
-"""A viewer that does not do what viewers do."""
+"""The viewer behaves in an unusual way."""
 
 import os
 import signal
@@ -11,7 +11,7 @@ from desktop.waiting import wait_until
 
 class OddViewerTest(LauncherTest):
     def launch_stubborn(self):
-        """A viewer that SIGTERM does not end runs on return."""
+        """Starts a viewer that SIGTERM does not end. Returns once it runs."""
         self.start(environment={"STUBBORN": "1"})
         self.addCleanup(self.kill_viewers)
         viewer = self.launch()

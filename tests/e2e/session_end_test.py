@@ -9,7 +9,7 @@ from case import LauncherTest
 
 class SessionEndTest(LauncherTest):
     def start_session_manager(self):
-        """Gives its address."""
+        """Returns its address."""
         self.manager = subprocess.Popen(
             [doubles.BUILT / "session-manager"], stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
             env={**os.environ, "RECORD": str(self.record.file)}, text=True)

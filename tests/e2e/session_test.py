@@ -53,7 +53,7 @@ class SessionTest(unittest.TestCase):
             self.skipTest(f"images cannot be attached here: {reason}")
 
     def put_in_path(self, name, text):
-        """Puts a script before the system's program of the same name."""
+        """Puts a script in front of the system's program of the same name."""
         tools = self.folder / "tools"
         tools.mkdir(exist_ok=True)
         (tools / name).write_text(text)
@@ -79,7 +79,7 @@ class SessionTest(unittest.TestCase):
         wait_until(lambda: windows_of(launchers[0]), "the launcher shows its window")[0].close()
 
     def assert_ends(self, status):
-        """The session ends with a status, and nothing of it is left."""
+        """The session ends with the status and leaves nothing behind."""
         self.assertEqual(self.session.wait(timeout=90), status, self.output.read_text())
         self.assertTrue(none_left())
         self.assertEqual(list(BUILD.glob("download-*")), [])
@@ -94,7 +94,7 @@ class SessionTest(unittest.TestCase):
         self.assert_ends(0)
         self.assertIn(str(file), self.output.read_text())
         self.assertIn("Found http://127.0.0.1:", self.output.read_text())
-        self.assertTrue(picture_in(file).has(WHITE))  # of the fields
+        self.assertTrue(picture_in(file).has(WHITE))  # the colour of the fields
 
     def test_without_a_display_a_virtual_one_shows_it_until_a_signal_ends_it(self):
         self.need_images()

@@ -1,4 +1,4 @@
-"""A resolver that takes as long as it likes."""
+"""The resolver takes a long time."""
 
 import doubles
 from case import GREEN, RED, LauncherTest
@@ -9,7 +9,7 @@ from desktop.window import press, type_text
 
 class SlowResolverTest(LauncherTest):
     def look_up(self):
-        """Presses the button; the lookup is under way on return."""
+        """Presses the button. Returns once the lookup is under way."""
         self.start_with_slow_resolver()
         self.enter_location("https://localhost")
         self.launcher.wait_for_status(READY)
@@ -49,7 +49,7 @@ class SlowResolverTest(LauncherTest):
         self.answers.open()
         self.launcher.wait_for_status(RUNNING_READY)
         wait_until(lambda: self.launcher.location.focused, "the location has the focus again")
-        type_text("new")  # in the place of what was selected
+        type_text("new")  # replaces the selection
         wait_until(lambda: self.launcher.location.text == "https://localhost/new",
                    "the location is edited where it was left")
 

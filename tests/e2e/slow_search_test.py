@@ -1,4 +1,4 @@
-"""A search for the server that takes as long as it likes."""
+"""The search for the server takes a long time."""
 
 import doubles
 from case import LauncherTest

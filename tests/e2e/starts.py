@@ -1,5 +1,5 @@
-"""Two hundred starts and quits, one after the other: what was there before is all that is there
-after. Takes minutes, so that it is a suite of its own."""
+"""Two hundred starts and quits, one after another, leave nothing behind. This takes minutes, so it is a
+suite of its own."""
 
 import os
 import pathlib
@@ -14,7 +14,7 @@ STARTS = 200
 
 
 def files_below(folder):
-    """How many files and folders, without those of the project, which others may be building."""
+    """How many files and folders there are. Leaves out the project's, which others may be building."""
     count = 0
     for place, folders, files in os.walk(folder):
         if pathlib.Path(place) == ROOT:

@@ -64,7 +64,7 @@ class WindowTest(LauncherTest):
         self.assert_legible(address, GREEN)
 
     def assert_legible(self, field, background):
-        """Within its border the field shows black text."""
+        """The field shows black text inside its border."""
         self.wait_for_colour(field, background)
         left, top, width, height = field.frame
         inside = picture_of("root").crop(left + 6, top + 6, width - 12, height - 12)

@@ -14,7 +14,7 @@ PNG_SIGNATURE = b"\x89PNG\r\n\x1a\n"
 
 
 def size_of_png(data):
-    """Width and height out of the header, which comes first in every PNG."""
+    """Width and height from the header, which comes first in every PNG."""
     signature, name, width, height = struct.unpack(">8s4x4sII", data[:24])
     assert (signature, name) == (PNG_SIGNATURE, b"IHDR"), data[:24]
     return width, height

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Every file lies in the room and the platform's folder that it belongs to, and includes run one way.
+"""Every file lies in the right room and platform folder, and includes run one way.
 
-A room's own files are logic: they know neither platform nor toolkit. What only one system has lies in
-the room's folder for it, and nothing but what wires the parts together includes from there.
+A room's own files are logic: they know neither platform nor toolkit. Code for one system lies in the
+room's folder for that system. Only the files that wire the parts together include from there.
 """
 
 import pathlib
@@ -21,7 +21,7 @@ MAY_INCLUDE = {
     "viewer": ["viewer"],
 }
 
-# What tells whose a header of the system is.
+# Recognises which platform a system header belongs to.
 SYSTEM_HEADERS = {
     "mac": re.compile(r"(AppKit|Cocoa|CoreFoundation|CoreGraphics|CoreServices|CFNetwork|Foundation|"
                       r"QuartzCore|dispatch|mach|objc)/|sys/sysctl\.h$"),
@@ -35,12 +35,12 @@ INCLUDE = re.compile(r'^\s*#\s*(include|import)\s*[<"]([^>"]+)[>"]', re.MULTILIN
 
 
 def includes(path):
-    """The names that a file includes, in its order, as they are written."""
+    """The names that a file includes, in order, as written."""
     return [name for _, name in INCLUDE.findall(path.read_text())]
 
 
 def platform_of(parts):
-    """Whose folder a path lies in; None for what both platforms share."""
+    """The platform whose folder a path lies in; None if both platforms share the path."""
     return next((part for part in parts if part in PLATFORMS), None)
 
 
@@ -73,7 +73,7 @@ def _wrong_arrows(parts, names):
 
 
 def faults(path):
-    """What is wrong with a product file's place and its includes, a line each."""
+    """What is wrong with a product file's place and its includes, one line per fault."""
     relative = path.relative_to(ROOT)
     parts = relative.parts
     return [f"{relative}: {fault}"

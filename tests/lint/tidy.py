@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""The source keeps the habits that .clang-tidy asks for.
+"""Checks that the source follows .clang-tidy.
 
-A file is looked at again only after it, a header of ours that it reaches, its compile command or the
-lists of habits have changed.
+Checks a file again only after a change to the file, to a header of ours that it reaches, to its compile
+command or to the lists of checks.
 """
 
 import concurrent.futures
@@ -52,7 +52,7 @@ def compiled():
 
 
 def check(path, mark):
-    """Whether a file passes; what is wrong with it is printed."""
+    """Whether a file passes. Prints what is wrong with it."""
     if mark.exists():
         return True
     done = subprocess.run(["nice", "clang-tidy", "--quiet", f"-p={COMMANDS}", path], text=True,

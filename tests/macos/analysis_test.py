@@ -1,4 +1,4 @@
-"""The macOS sources, followed through their branches by LLVM's static analyzer."""
+"""LLVM's static analyzer follows the macOS sources through their branches."""
 
 import unittest
 

@@ -1,4 +1,4 @@
-"""The bundle: what it says of itself and what lies where."""
+"""The bundle: what it says about itself, and where its files are."""
 
 import os
 import plistlib
@@ -61,8 +61,8 @@ class Bundle(unittest.TestCase):
         self.assertEqual(plistlib.loads((CONTENTS / "Info.plist").read_bytes()), INFORMATION)
 
     def test_layout(self):
-        """Nothing but this; the layout resources, which only a Mac can compile, are missing, and a
-        note says so."""
+        """The bundle holds exactly these files. The layout resources are missing, since only a Mac can
+        compile them; a note says so."""
         localised = [f"Resources/{language}.lproj/{name}.strings"
                      for language in LANGUAGES for name in ("InfoPlist", "Localizable")]
         self.assertEqual(files(), sorted([

@@ -8,7 +8,7 @@ from product import ARCHITECTURES, PROGRAM, ROOT, build
 
 DOCUMENT = (ROOT / "docs" / "macos.md").read_text()
 
-# Of the system's library, what is more than C and C++ themselves.
+# The calls into the system's library that belong neither to C nor to C++.
 SYSTEM_CALLS = r"_(dispatch_\w+|getnameinfo|getxattr|inet_pton|kill|sysctl)"
 FRAMEWORKS = {"AppKit", "CFNetwork", "CoreFoundation", "CoreGraphics", "Foundation", "QuartzCore"}
 

@@ -1,4 +1,4 @@
-"""The disk image, as far as it can be made without a Mac."""
+"""The disk image, as far as Linux can make it."""
 
 import pathlib
 import shutil

@@ -11,18 +11,18 @@ LAYOUTS = ROOT / "resources" / "Base.lproj"
 FILES_OWNER = "-2"
 FIRST_RESPONDER = "-1"
 
-# The platform's own, as far as the layouts name them.
+# The platform's own classes and outlets that the layouts name.
 PLATFORM_CLASSES = {"NSApplication", "NSObject", "FirstResponder"}
 PLATFORM_OUTLETS = {"contentViewController", "delegate", "nextKeyView", "view"}
 
-# What people expect of the menus on macOS, sent to whatever has the focus.
+# The actions that people expect of the menus on macOS, sent to whatever has the focus.
 MENU_ACTIONS = {
     "hide:", "hideOtherApplications:", "unhideAllApplications:", "terminate:", "undo:", "redo:",
     "cut:", "copy:", "paste:", "selectAll:", "performClose:", "performMiniaturize:", "performZoom:",
     "arrangeInFront:",
 }
 
-# What layout files of Xcode's never hold where there is no Auto Layout.
+# Xcode's layout files without Auto Layout never hold these attributes.
 FOREIGN_ATTRIBUTES = {"useAutolayout", "fixedFrame"}
 
 
@@ -47,14 +47,14 @@ def parents(root):
 
 
 def edges(element):
-    """The lower and upper edge; a view's own coordinates start at its bottom."""
+    """The lower and the upper edge. A view's own coordinates start at its bottom."""
     frame = element.find("rect[@key='frame']")
     lower = float(frame.get("y"))
     return lower, lower + float(frame.get("height"))
 
 
 def label_above(root, field):
-    """The title of the text nearest above a field."""
+    """The title of the nearest text above a field."""
     upper = edges(field)[1]
     labels = [text for text in root.iter("textField")
               if text.find("textFieldCell").get("editable") == "NO" and edges(text)[0] >= upper]
@@ -62,7 +62,7 @@ def label_above(root, field):
 
 
 def role(root, element):
-    """What a person would call it."""
+    """A name by which a person would recognise it."""
     if element.get("id") == FILES_OWNER:
         return "owner"
     if element.tag == "textField":
@@ -76,7 +76,7 @@ def role(root, element):
 
 
 def connections(root):
-    """Every outlet: from what, its name, to what."""
+    """Every outlet: its source, its name and its target."""
     parent = parents(root)
     return sorted((role(root, parent[parent[outlet]]), outlet.get("property"),
                    role(root, root.find(f".//*[@id='{outlet.get('destination')}']")))
@@ -170,7 +170,7 @@ class Layouts(unittest.TestCase):
                 self.assertEqual(attributes & FOREIGN_ATTRIBUTES, set())
 
     def test_fields_show_the_colour_of_their_layer(self):
-        """A field that draws a background of its own would hide it."""
+        """A field's own background would hide it."""
         fields = [cell for cell in layout("ViewController").iter("textFieldCell")
                   if cell.get("editable") == "YES"]
         self.assertEqual(len(fields), 2)

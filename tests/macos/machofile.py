@@ -1,4 +1,4 @@
-"""Reads what matters here out of a macOS program, through LLVM's tools."""
+"""Reads a macOS program with LLVM's tools, as far as the tests need it."""
 
 import re
 
@@ -14,7 +14,7 @@ def _dump(program, architecture, *options):
 
 
 def platform_and_minimum(program, architecture):
-    """For what platform the program was built, and its oldest version: ("macos", "11.0")."""
+    """The platform that the program was built for, and its oldest version: ("macos", "11.0")."""
     headers = _dump(program, architecture, "--private-headers")
     return (re.search(r"^\s*platform (\S+)$", headers, re.MULTILINE)[1],
             re.search(r"^\s*minos (\S+)$", headers, re.MULTILINE)[1])
@@ -27,21 +27,21 @@ def libraries(program, architecture):
 
 
 def literals(program, architecture):
-    """The texts that are written in the code."""
+    """The string literals in the code."""
     lines = _dump(program, architecture, "--section=__TEXT,__cstring").splitlines()
     return {line.partition("  ")[2] for line in lines if re.match(r"[0-9a-f]{16}  ", line)}
 
 
 def undefined_symbols(program, architecture):
-    """Symbol → where it comes from ("from Foundation"), or None where nothing says so."""
+    """Symbol → where it comes from ("from Foundation"), or None if the program does not say."""
     lines = output_of("llvm-nm-19", "-m", "-u", f"--arch={architecture}", program).splitlines()
     matches = (re.search(r"external (\S+)(?: \((from \S+)\))?$", line) for line in lines)
     return {match[1]: match[2] for match in matches if match}
 
 
 def bindings(program, architecture):
-    """The lines that tell the loader in which library to look for a symbol. Weak symbols are left
-    out: of those, which are C++'s, the first one that is loaded counts everywhere."""
+    """The lines that tell the loader in which library to look for a symbol. Leaves out weak symbols.
+    These are C++'s, and the first one that is loaded counts everywhere."""
     lines = _dump(program, architecture, "--bind", "--lazy-bind").splitlines()
     return [line for line in lines if re.match(r"__[A-Z]", line)]
 

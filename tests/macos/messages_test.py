@@ -1,5 +1,5 @@
-"""The messages that the application's classes answer: the names by which the layout resources and
-the platform reach them, in the order of their list."""
+"""The messages that the application's classes answer, in the order of their list. The layout resources
+and the platform call the classes by these names."""
 
 import unittest
 
@@ -21,7 +21,7 @@ APP_DELEGATE = [
     "applicationShouldTerminateAfterLastWindowClosed:",
 ]
 
-# What belongs to the language: an object's end, and its C++ members' beginning and end.
+# The language's own: the end of an object, and the beginning and end of its C++ members.
 OF_THE_LANGUAGE = {"dealloc", ".cxx_construct", ".cxx_destruct"}
 
 

@@ -1,4 +1,4 @@
-"""What the mac-cross preset builds, and where it lies."""
+"""What the mac-cross preset builds, and where it is."""
 
 import functools
 import pathlib
@@ -20,7 +20,7 @@ ARCHITECTURES = ["arm64", "x86_64"]
 
 
 def output_of(*command):
-    """What a command prints on both streams. An AssertionError shows it where the command fails."""
+    """What a command prints on both streams. If the command fails, an AssertionError shows it."""
     done = subprocess.run([str(part) for part in command], cwd=ROOT, text=True,
                           stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                           stderr=subprocess.STDOUT)
@@ -30,6 +30,6 @@ def output_of(*command):
 
 @functools.cache
 def build():
-    """Brings everything up to date; in one run of the tests, once."""
+    """Brings everything up to date, once in a run of the tests."""
     output_of("cmake", "--preset", "mac-cross")
     output_of("cmake", "--build", "--preset", "mac-cross")

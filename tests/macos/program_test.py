@@ -1,4 +1,4 @@
-"""The programs, as the loader of a Mac would see them."""
+"""The programs, as the loader of a Mac sees them."""
 
 import unittest
 
@@ -8,7 +8,7 @@ from product import ARCHITECTURES, PROGRAM, TEST_PROGRAMS, VIEWER, build
 FRAMEWORKS = ["AppKit", "CFNetwork", "CoreFoundation", "CoreGraphics", "Foundation", "QuartzCore"]
 LIBRARIES = ["libSystem.B.dylib", "libc++.1.dylib", "libobjc.A.dylib"]
 
-# What other programs and the system know by name.
+# The names that other programs and the system know.
 NAMES = {"/usr/bin/hdiutil", "info", "-plist", "com.apple.metadata:kMDItemWhereFroms",
          "/bin/", "vexlink", "-l", "-i", "-r", "vexwatch"}
 

@@ -1,4 +1,4 @@
-"""What make-image asks of the tools of macOS, and what it leaves behind when one of them fails."""
+"""What make-image asks the tools of macOS to do, and what it leaves behind when one of them fails."""
 
 import json
 import os
@@ -50,7 +50,7 @@ SIGNED_REQUESTS = [
     "spctl --assess --type open --context context:primary-signature WORK/L.dmg",
 ]
 
-# How a request begins → what the script says when it fails.
+# The beginning of a request → what the script says when that request fails.
 FAILURES = {
     "xattr": f"could not strip the extended attributes of {STAGED}",
     f"{SIGN} --options runtime {STAGED}/{VIEWER}": f"could not sign {STAGED}/{VIEWER}",
@@ -98,7 +98,7 @@ class SignedImage(unittest.TestCase):
         self.record = self.folder / "record"
 
     def make_image(self, *options, failures=None, notary="Accepted"):
-        """The exit status and what was said; the script's own folder is WORK, the image IMAGE."""
+        """The exit status and the output. WORK stands for the script's own folder, IMAGE for the image."""
         self.record.write_text("")
         done = subprocess.run(
             [MAKE_IMAGE, *options, self.application, self.image], text=True,
@@ -110,7 +110,7 @@ class SignedImage(unittest.TestCase):
         return done.returncode, said.replace(str(self.image), "IMAGE")
 
     def requests(self):
-        """What the tools were asked, but for the question which system this is."""
+        """What the tools were asked to do, without the question which system this is."""
         return [line for line in self.record.read_text().splitlines() if line != "uname -s"]
 
     def check_made(self, requests, *options, **behaviour):
@@ -121,7 +121,7 @@ class SignedImage(unittest.TestCase):
             self.assertIn(f"./Launcher.app/{VIEWER}", volume.getnames())
 
     def check_refused(self, says, *options, **behaviour):
-        """Nothing is left behind, and an image that was there before is kept."""
+        """The script leaves nothing behind and keeps an earlier image."""
         self.image.unlink(missing_ok=True)
         for before in ([], ["L.dmg"]):
             for name in before:
@@ -161,7 +161,7 @@ class SignedImage(unittest.TestCase):
                 self.assertEqual(self.requests()[-1], "hdiutil detach WORK/check")
 
     def test_every_request_can_fail(self):
-        """The list of failures misses none of what is asked."""
+        """The list of failures covers every request."""
         for request in SIGNED_REQUESTS:
             with self.subTest(request=request):
                 self.assertTrue(any(f"{request} ".startswith(f"{start} ") for start in FAILURES))

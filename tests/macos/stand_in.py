@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 """Stands in for a tool of macOS in the tests of make-image, under that tool's name.
 
-Writes down what it is asked, one line each, in the file named by STAND_IN_RECORD, with WORK for the
-script's own folder. Does as much as the script looks at afterwards. Fails where STAND_IN_FAILURES, a
-JSON object, has an entry with whose words the request begins:
-{"hdiutil attach": {"times": 2, "says": "Resource busy"}}; without "times", always.
+Records each request as a line of the file that STAND_IN_RECORD names, with WORK for the script's own
+folder. Does only what the script looks at afterwards. STAND_IN_FAILURES is a JSON object, such as
+{"hdiutil attach": {"times": 2, "says": "Resource busy"}}: a request that begins with these words fails
+so many times, or always if "times" is missing.
 """
 
 import json
@@ -61,7 +61,7 @@ def begins(request, start):
 
 
 def failure_of(request):
-    """What this request fails with, or None."""
+    """The failure of this request, or None."""
     asked = RECORD.read_text().splitlines()
     for start, failure in FAILURES.items():
         before = sum(begins(line, start) for line in asked)

@@ -1,4 +1,4 @@
-"""Makes each mutant in a copy of the project and asks the tests whether they notice:
+"""Makes each mutant in a copy of the project and checks whether the tests notice it:
 run.py [NAME...], where a name is part of a file's path or of a rule."""
 
 import concurrent.futures
@@ -15,7 +15,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 COPIES = ROOT / "build" / "mutants"
 LIMIT_SECONDS = 600  # a mutant that makes the tests hang is noticed, too
 
-# Those that ask first are quick. A test program ends with another status than 0 where it notices.
+# The quick ones come first. A test program that notices a mutant ends with a status other than 0.
 PROGRAMS = ["unit-tests", "diagnostics-tests", "contract-tests"]
 WINDOW, WINDOW_PROGRAMS = "controller/linux/", ["qt-window-tests"]
 
@@ -32,7 +32,7 @@ class Copy:
         self._build = self._root / "build"
 
     def prepare(self, programs):
-        """Brings the copy up to date, builds the programs, and sees that they pass."""
+        """Brings the copy up to date, builds the programs, and makes sure that they pass."""
         files = subprocess.run(["git", "ls-files", "-z"], cwd=ROOT, check=True, text=True,
                                stdout=subprocess.PIPE).stdout.split("\0")
         for name in filter(None, files):
@@ -67,7 +67,7 @@ class Copy:
             return False
 
     def notices(self, mutant):
-        """The program of tests that notices a mutant; None where none does."""
+        """The test program that notices a mutant; None if none does."""
         file = self._root / mutant.file
         before = file.read_text(encoding="utf-8")
         file.write_text(mutant.applied(before), encoding="utf-8")
@@ -95,7 +95,7 @@ def chosen(names):
 
 
 def judged(mutants):
-    """Each mutant with the program that notices it, as they come."""
+    """Yields each mutant with the program that notices it, as soon as it is known."""
     copies = queue.Queue()
 
     def judge(mutant):

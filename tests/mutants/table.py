@@ -1,15 +1,15 @@
 """The table of mutants: changes of the source that each break one rule.
 
-A file of the table holds entries like this one, parted by blank lines:
+A file of the table holds entries like this one, separated by blank lines:
 
     process/ProcessHelpers.cpp
     A failed size probe gives no snapshot.
     - if (probeError(table, length) != 0) return list;
     + probeError(table, length);
 
-The line after "-" is found by its text without the blanks around it; the lines after "+" stand in its
-place, none where the line goes. A line that occurs several times is told by "- 2:", the second of
-them. An entry may end with a line "= REASON" where nobody can notice the change, which needs no test.
+The text after "-" names the line to change, without the blanks around it. The lines after "+" replace
+it; without any, the line is removed. If the line occurs several times, "- 2:" means the second one. An
+entry may end with a line "= REASON" if nobody can notice the change; it then needs no test.
 """
 
 import re
@@ -60,6 +60,6 @@ def _mutant(text):
 
 
 def read(path):
-    """The mutants of a file of the table."""
+    """The mutants in a file of the table."""
     entries = re.split(r"\n\s*\n", path.read_text(encoding="utf-8").strip())
     return [_mutant(entry) for entry in entries]

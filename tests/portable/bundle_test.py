@@ -1,4 +1,4 @@
-"""Whether the application carries what it needs, as far as can be told without leaving this machine."""
+"""Whether the application carries what it needs, as far as this machine can tell."""
 
 import contextlib
 import pathlib
@@ -31,8 +31,7 @@ def executables_and_libraries(application):
 
 
 def wanting(application):
-    """The libraries that something in the application needs, and that are neither carried nor left to
-    the machine."""
+    """The libraries that the application needs, but neither carries nor leaves to the machine."""
     needed = {name for file in executables_and_libraries(application)
               for name in re.findall(r"\(NEEDED\).*\[(.*)\]", output_of("readelf", "-dW", file))}
     carried = {file.name for file in (application / "lib").iterdir()}
@@ -46,7 +45,7 @@ def copy_of_the_application():
 
 
 def zisofs_decoded(data):
-    """A file's content out of the form in which an .iso keeps it."""
+    """A file's content, unpacked from the form in which an .iso keeps it."""
     if not data.startswith(bytes.fromhex("37e45396c9dbd607")):
         return data
     import zlib
@@ -58,7 +57,7 @@ def zisofs_decoded(data):
 
 
 def contents(folder, decoded=lambda data: data):
-    """What lies in a folder, by its path: a link's target, or a file's mode and content."""
+    """The content of a folder, by path: a link's target, or a file's mode and content."""
     found = {}
     for path in folder.rglob("*"):
         name = str(path.relative_to(folder))
@@ -129,7 +128,7 @@ class LicencesTest(unittest.TestCase):
 
 
 class ImageTest(unittest.TestCase):
-    """Both forms hold the application as it lies in the build folder, and what starts it."""
+    """Both forms hold the application as it is in the build folder, and its starter."""
 
     def make(self, name):
         folder = tempfile.TemporaryDirectory(prefix="image-", dir=ROOT / "build")

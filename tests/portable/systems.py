@@ -1,4 +1,4 @@
-"""The application in bare systems, started from its mounted image. tests/portable/run makes these."""
+"""The application starts from its mounted image in bare systems, which tests/portable/run makes."""
 
 import contextlib
 import os
@@ -16,12 +16,12 @@ FOLDER = ROOT / "build/portable"
 IMAGE = FOLDER / "VorxLauncher.img"
 VOLUME = "/mnt"
 PERSON = 1000
-ORIGIN = "https://127.0.0.1/vorx/VorxLauncher.img"  # a host that needs no network to be looked up
+ORIGIN = "https://127.0.0.1/vorx/VorxLauncher.img"  # the lookup of this host needs no network
 
 
 class System:
     """A bare system, with a person's home and an X server's socket. What is written into it goes into
-    scratch folders, which end with it."""
+    scratch folders, which are removed with it."""
 
     def __init__(self, suite):
         self._stack = contextlib.ExitStack()
@@ -46,7 +46,7 @@ class System:
         self._stack.callback(subprocess.run, ["umount", "--recursive", str(arguments[-1])], check=True)
 
     def download(self, image, origin):
-        """Puts an image into the home, its origin recorded."""
+        """Puts an image into the home and records its origin."""
         file = self.root / "root" / image.name
         subprocess.run(["cp", str(image), str(file)], check=True)
         os.setxattr(file, "user.xdg.origin.url", origin.encode())
@@ -80,7 +80,7 @@ def arguments_of(process):
 
 
 def libraries_of(process):
-    """The libraries that a process has loaded: their folders, by their names."""
+    """The folders of the libraries that a process has loaded, by library name."""
     places = re.findall(r"(/\S+\.so\S*)$", (process / "maps").read_text(), re.MULTILINE)
     return {pathlib.Path(place).name: str(pathlib.Path(place).parent) for place in places}
 
@@ -91,7 +91,7 @@ def has_window(name):
 
 
 def press_until_launched():
-    """Return launches once the location has been found; before that it does nothing."""
+    """Presses Return until the launch: before the location is found it does nothing."""
     def launched():
         subprocess.run(["xdotool", "key", "Return"], check=True)
         with contextlib.suppress(subprocess.TimeoutExpired):

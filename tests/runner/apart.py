@@ -2,10 +2,10 @@
 """Runs a command apart from the machine's own processes, memory, mounts, network and displays:
 apart.py [--display] COMMAND...
 
-Tests start, find and signal processes by name; apart, they meet only their own, and whatever they
-leave behind ends with them. Where this is not allowed they run among the machine's processes. With
---display the command gets a display of its own; where none can be had, the reason is printed and the
-exit status is 77. A Mac has one display for all.
+Tests start, find and signal processes by name. Apart, they meet only their own processes, and
+whatever they leave behind ends with them. If the machine does not allow this, they run among its
+processes. With --display the command gets a display of its own. If there is none, prints the reason
+and ends with 77. On a Mac all commands share the one display.
 """
 
 import contextlib
@@ -40,7 +40,7 @@ def mount(source, target):
 
 
 def take_the_place_of_tmp(folder):
-    """A display's number is taken in /tmp. The project stays where it is, also below /tmp."""
+    """Hides /tmp, where displays reserve their numbers. A project below /tmp stays in its place."""
     place = pathlib.Path("/tmp")
     if ROOT.is_relative_to(place):
         inside = folder / ROOT.relative_to(place)
@@ -56,7 +56,7 @@ def bring_loopback_up():
 
 
 def run(command):
-    """Runs the command, reaps whatever else ends meanwhile, and gives its exit status."""
+    """Runs the command and returns its exit status. Reaps whatever else ends meanwhile."""
     child = os.spawnvp(os.P_NOWAIT, command[0], command)
     while True:
         pid, status = os.wait()
@@ -79,7 +79,7 @@ def run_on_display(command):
 
 
 def inside(folder, *command):
-    """What is done in the new namespaces, if they could be had."""
+    """Runs the command in the new namespaces or, if they are not allowed, without them."""
     if os.getpid() == 1:
         take_the_place_of_tmp(pathlib.Path(folder))
         bring_loopback_up()

@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
-"""Tells what became of a run of CTest, test by test: summary.py BUILD_FOLDER
+"""Summarises a run of CTest, test by test: summary.py BUILD_FOLDER
 
-Reads CTest's own record, results.xml, and what each program of tests left in results/. Prints the
-reasons of skips, what took longest, and the closing line. Ends with 1 where a test failed or none
-passed.
+Reads CTest's own record, results.xml, and the record of each test program in results/. Prints the
+failures, the reasons for skips, the longest tests and the closing line. Ends with 1 if a test failed or
+none passed.
 """
 
 import collections
@@ -34,8 +34,8 @@ def reason_of(skip):
 
 
 def outcomes(test, results):
-    """The same of one of CTest's tests. One without a record counts as one test; a step of the build
-    counts where it fails."""
+    """The same for one of CTest's tests. One without a record counts as one test. A step of the build
+    counts only if it fails."""
     name, status = test.get("name"), test.get("status")
     record = results / f"{name}.xml"
     if status == "notrun" and "SKIP_RETURN_CODE" in str(test.find("skipped").get("message")):

@@ -1,4 +1,4 @@
-"""What every script says of itself, and of arguments that it does not know."""
+"""What every script says about itself, and about arguments that it does not know."""
 
 import pathlib
 import subprocess

@@ -1,4 +1,4 @@
-"""Whoever looks for a suite finds it."""
+"""Every suite is documented."""
 
 import pathlib
 import re

@@ -33,7 +33,7 @@ class BuildStepsTest(unittest.TestCase):
         self.folder = pathlib.Path(folder.name)
 
     def run_step(self, name, **inputs):
-        """Writes the inputs to files and runs a step on them; gives what it writes."""
+        """Writes the inputs to files, runs a step on them and returns what the step writes."""
         files = []
         for suffix, text in inputs.items():
             files.append(self.folder / f"input.{suffix}")

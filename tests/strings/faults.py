@@ -28,7 +28,7 @@ def _faults_of_entry(entry, comments):
 
 
 def faults(entries, comments):
-    """What is wrong with a table's entries; comments: each shown text → its translators' comment."""
+    """What is wrong with a table's entries. `comments`: each shown text → its translators' comment."""
     keys = [entry.key for entry in entries]
     yield from (f'"{key}" is there twice' for key in _twice(keys))
     yield from (f'"{key}" is missing' for key in sorted(comments.keys() - set(keys)))
@@ -40,5 +40,5 @@ def faults(entries, comments):
 
 
 def faults_of_english(entries):
-    """Where the English table, the source of the other ones, does not say its keys."""
+    """The entries of the English table whose text differs from the key. The other tables follow it."""
     return [f'"{entry.key}" reads "{entry.text}"' for entry in entries if entry.key != entry.text]

@@ -1,4 +1,4 @@
-"""Each fault that a table can have is found."""
+"""The check finds each fault that a table can have."""
 
 import unittest
 

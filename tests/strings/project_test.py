@@ -18,7 +18,7 @@ def read(language):
 
 
 def comments_of_what_is_shown():
-    """The code brings its comments along; the other ones are the English table's."""
+    """Each shown text with its comment: from the code, or else from the English table."""
     of_code = {}
     for path in sorted(ROOT.glob("controller/**/*.[hc]*")):
         of_code |= texts_of_code(path.read_text(encoding="utf-8"))

@@ -1,4 +1,4 @@
-"""Which texts are found in code and in layout files."""
+"""Which texts the reader finds in code and in layout files."""
 
 import unittest
 

@@ -1,4 +1,4 @@
-"""What is read from a strings table, and what is refused."""
+"""What the reader takes from a strings table, and what it refuses."""
 
 import unittest
 

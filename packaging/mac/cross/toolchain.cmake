@@ -5,7 +5,7 @@ set(CMAKE_SYSTEM_VERSION 20.0)
 set(CMAKE_OSX_ARCHITECTURES arm64 x86_64)
 set(CMAKE_OSX_DEPLOYMENT_TARGET 11.0)
 
-# CMake's own test projects read this file too and get the sysroot that exists by then.
+# CMake's own test projects read this file too. By then the sysroot exists, and they use it.
 set(MACOS_SYSROOT "${CMAKE_BINARY_DIR}/sysroot" CACHE PATH "What macOS offers to a build")
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES MACOS_SYSROOT)
 get_property(within_try_compile GLOBAL PROPERTY IN_TRY_COMPILE)

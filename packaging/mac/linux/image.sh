@@ -20,8 +20,8 @@ create_image() {
     >"$work/xorriso.log" 2>&1 || fail "could not make $image: $(tail -n 1 "$work/xorriso.log")"
 }
 
-# Lists the staged files, one line each: mode, path. The volume keeps names in their decomposed
-# form.
+# Lists the staged files, one line each: mode, path. The paths are in decomposed form, as in the
+# volume.
 staged_entries() {
   (cd "$work/volume" && find . -mindepth 1 -printf '%M %P\n') | python3 -c '
 import sys, unicodedata

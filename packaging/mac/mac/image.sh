@@ -60,7 +60,7 @@ notary() { xcrun notarytool "$@" --keychain-profile "$notary_profile"; }
 # The value of a key in the notary's last answer.
 answered() { sed -n "s/.*\"$1\" *: *\"\([^\"]*\)\".*/\1/p" "$work/notary.json"; }
 
-# The exit status does not tell a refusal from other failures, so read the answer.
+# A refusal and other failures have the same exit status, so read the answer.
 notarise_image() {
   [ -n "$notary_profile" ] || return 0
   notary submit "$made" --wait --output-format json >"$work/notary.json" || true

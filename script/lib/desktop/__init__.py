@@ -1,2 +1,2 @@
-"""A desktop for the launcher: a display, a download, a mounted image; and a person's eyes and
-hands."""
+"""A desktop for the launcher: a display, a download and a mounted image, with means to see and to act
+as a person does."""

@@ -83,7 +83,7 @@ WAYS = [_by_mac] if sys.platform == "darwin" else [_by_root, _by_desktop]
 
 @contextlib.contextmanager
 def attached(file):
-    """Mounts an image's volume during the block, in the first way that works. Gives its folder."""
+    """Mounts an image's volume during the block, in the first way that works. Yields its folder."""
     reasons = []
     with contextlib.ExitStack() as stack:
         for way in WAYS:

@@ -8,7 +8,7 @@ from desktop.waiting import Failure, wait_until
 
 
 class NoDisplay(Failure):
-    """No virtual display can be had here; the text is the reason."""
+    """This machine cannot provide a virtual display; the text is the reason."""
 
 
 class VirtualDisplay:

@@ -33,7 +33,7 @@ class _Handler(http.server.BaseHTTPRequestHandler):
 
 @contextlib.contextmanager
 def served(file, folder="vorx"):
-    """Serves one file, under a folder, during the block. Gives its address."""
+    """Serves one file, under a folder, during the block. Yields its address."""
     file = pathlib.Path(file)
     with http.server.ThreadingHTTPServer(("127.0.0.1", 0), _Handler) as server:
         server.file = file
@@ -48,7 +48,7 @@ def served(file, folder="vorx"):
 
 
 def _record_as_browsers_do(file, address):
-    """Curl records no origin on a Mac; this is the record that browsers leave there."""
+    """Records the origin as browsers do on a Mac, since curl records none there."""
     record = plistlib.dumps([address], fmt=plistlib.FMT_BINARY).hex()
     subprocess.run(["xattr", "-wx", MAC_ORIGIN, record, str(file)], check=True)
 

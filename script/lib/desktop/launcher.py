@@ -26,8 +26,8 @@ def texts_in(language):
 
 
 class Launcher:
-    """Takes the window of a running process, in one language. Returns once it is shown in its place
-    and has the focus."""
+    """Finds the window of a running process, in one language. Returns once the window is shown in its
+    place and has the focus."""
 
     def __init__(self, process, language="en"):
         self.process = process

@@ -11,7 +11,7 @@ _SET_CHILD_SUBREAPER = 36
 
 
 def adopt_orphans():
-    """From now on a descendant whose parent ends becomes a child of this process."""
+    """Makes this process adopt its descendants from now on: one whose parent ends becomes its child."""
     ctypes.CDLL(None).prctl(_SET_CHILD_SUBREAPER, 1, 0, 0, 0)
 
 

@@ -72,7 +72,7 @@ class Part:
 
     def find(self, role, name=None):
         """The first part with the role, and the name if one is given; or None."""
-        with contextlib.suppress(GLib.Error):  # a part that has gone meanwhile
+        with contextlib.suppress(GLib.Error):  # a part may have gone meanwhile
             return next((part for part in self.all(role) if name in (None, part.name)), None)
 
     def find_window(self, name):
@@ -112,7 +112,7 @@ class Announcements:
         self._listener.deregister(self._SHOWN)
 
     def _hear(self, event):
-        with contextlib.suppress(GLib.Error):  # a part that has gone meanwhile
+        with contextlib.suppress(GLib.Error):  # a part may have gone meanwhile
             if event.detail1 == 1 and Part(event.source).role == NOTIFICATION:
                 self._heard.append(Part(event.source).name)
 

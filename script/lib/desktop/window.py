@@ -13,7 +13,7 @@ def _output(*command):
 
 
 def press(*keys):
-    """Presses keys, one after the other."""
+    """Presses keys one after another."""
     _output("xdotool", "key", "--clearmodifiers", *keys)
 
 
@@ -27,8 +27,8 @@ def click(x, y):
 
 
 def all_windows(order="_NET_CLIENT_LIST"):
-    """The windows that the window manager knows, the oldest first; by `_NET_CLIENT_LIST_STACKING`,
-    the lowest first."""
+    """The windows that the window manager knows, the oldest first. With `_NET_CLIENT_LIST_STACKING` the
+    lowest comes first."""
     return [Window(each) for each in re.findall(r"0x[0-9a-f]+", _output("xprop", "-root", order))]
 
 
@@ -61,7 +61,7 @@ class Window:
         _output("import", "-silent", "-frame", "-window", self.identifier, str(file))
 
     def is_active(self):
-        """Whether the window manager's own keys, such as Alt+F4, are for this window."""
+        """Whether the window manager's own keys, such as Alt+F4, act on this window."""
         return _output("xprop", "-root", "_NET_ACTIVE_WINDOW").endswith(f" {self.identifier}\n")
 
     def close(self):

@@ -1,7 +1,7 @@
 # Sourced by script/bootstrap: Debian's packages.
 
-# Prints the packages of the named groups, one a line. Without a name, prints all groups but that of
-# the benchmarks, which installs many programs to compare with.
+# Prints the packages of the named groups, one per line. Without a name, prints all groups except the
+# benchmarks', which has many programs to compare with.
 packages() {
   awk -v wanted=" $* " '
     /^\[/ { group = substr($1, 2, length($1) - 2); next }
@@ -15,7 +15,7 @@ installed() {
   dpkg-query --show --showformat '${db:Status-Status} ${Package}\n' "$@" | sed -n 's/^installed //p'
 }
 
-# Prints the missing packages of the named groups, one a line. A program that was installed in
+# Prints the missing packages of the named groups, one per line. A program that was installed in
 # another way is not missing.
 missing() {
   local package

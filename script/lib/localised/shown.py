@@ -23,7 +23,7 @@ def texts_of_code(source):
 
 
 def shown_attributes(element):
-    """The names of an element's attributes that may hold a text to be shown or spoken."""
+    """The names of those attributes of an element that may hold a text to show or to speak."""
     if element.get("systemMenu") == "main":  # the menu bar, whose own title is never shown
         return []
     if element.tag == "accessibility":
@@ -34,14 +34,14 @@ def shown_attributes(element):
 
 
 def texts_of_layout(xib):
-    """The keys of the texts that a layout file shows, or a screen reader speaks."""
+    """The keys of the texts in a layout file that the window shows or a screen reader speaks."""
     elements = xml.etree.ElementTree.fromstring(xib).iter()
     texts = {element.get(name) for element in elements for name in shown_attributes(element)}
     return texts - {None, ""}
 
 
 def texts_of_information(plist):
-    """The key of the text that macOS shows, by the name in Info.plist."""
+    """For each name in Info.plist, the key of the text that macOS shows."""
     information = plistlib.loads(plist)
     names = dict.fromkeys(["CFBundleDisplayName", "CFBundleName"], information["CFBundleName"])
     reasons = {name: text for name, text in information.items() if name.endswith("UsageDescription")}

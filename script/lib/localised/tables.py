@@ -23,7 +23,8 @@ def _unescaped(text):
 
 
 def decode(data):
-    """The table's text. Without a byte-order mark one platform would take another encoding."""
+    """The table's text. Requires a byte-order mark: without it one platform would assume another
+    encoding."""
     if not data.startswith(codecs.BOM_UTF8):
         raise Unreadable("does not begin with UTF-8's byte-order mark")
     try:

@@ -12,7 +12,7 @@ import tables
 
 
 def translate(layout, texts):
-    """Replaces each shown text in the layout that has a translation; the others stay."""
+    """Replaces each text that the layout shows, if it has a translation; the others stay."""
     for element in layout.iter():
         for name in shown.shown_attributes(element):
             if element.get(name) in texts:
