@@ -5,7 +5,7 @@
 
 namespace launcher {
 
-/// Runs the work in so many threads at once and waits for them. The work gets its thread's number.
+/// Runs the work in `count` threads at once and waits for them. Each call gets its thread's number.
 ///
 ///     inThreads(4, [&](int number) { ... });
 template <class Work>

@@ -1,5 +1,5 @@
 // Fills the process table with processes that only sleep: crowd COUNT. Prints "ready" once they
-// run; they end with it.
+// run. They end when this program ends.
 
 #include <sys/prctl.h>
 #include <sys/wait.h>

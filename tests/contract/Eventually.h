@@ -5,7 +5,7 @@
 
 namespace launcher {
 
-/// Waits until the condition holds, for at most a minute. Whether it came to hold.
+/// Waits until the condition holds, for at most a minute. Returns whether it held in time.
 ///
 ///     EXPECT_TRUE(eventually([&] { return exits == 1; }));
 template <class Condition>

@@ -34,14 +34,14 @@ class Pipe {
     if (writer_ >= 0) close(std::exchange(writer_, -1));
   }
 
-  /// The next line without its end; shorter where the pipe's other side has closed.
+  /// The next line without its end; shorter if the pipe's other side has closed.
   std::string line() const {
     std::string text;
     for (char c = 0; read(reader_, &c, 1) == 1 && c != '\n';) text += c;
     return text;
   }
 
-  /// All that comes until every writer has closed; closes this one first.
+  /// Everything that comes until every writer has closed. Closes this pipe's own writer first.
   std::string all() {
     closeWriter();
     std::string text;

@@ -7,10 +7,11 @@
 
 namespace launcher {
 
-/// Whether the process exists, be it as a zombie.
+/// Whether the process exists. A zombie still does.
 inline bool isThere(pid_t pid) { return pid > 0 && kill(pid, 0) == 0; }
 
-/// Signals one process, never the many that `kill` means by 0 and below.
+/// Signals one process. `kill` takes 0 and negative numbers for many processes; they are ignored
+/// here.
 inline void sendSignal(pid_t pid, int signal) {
   if (pid > 0) kill(pid, signal);
 }

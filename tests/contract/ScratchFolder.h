@@ -23,14 +23,14 @@ class ScratchFolder {
 
   const std::string& path() const { return path_; }
 
-  /// The path of an entry, which need not be there.
+  /// The path of an entry, which need not exist.
   std::string file(const std::string& name) const { return path_ + "/" + name; }
 
  private:
   std::string path_;
 };
 
-/// All that a file holds; empty where it is not there.
+/// The whole content of a file; empty if there is no such file.
 inline std::string contentOf(const std::string& path) {
   std::ostringstream content;
   content << std::ifstream(path).rdbuf();

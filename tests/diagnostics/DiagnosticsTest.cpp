@@ -26,7 +26,7 @@ using testing::UnorderedElementsAre;
 const std::string toolHasEnded = "the listing tool has ended";
 const std::string waited = "waited for the listing tool";
 
-/// The messages so far, all of which name the same file and the same operation.
+/// The messages so far. Each must name the same file and this operation.
 std::vector<std::string> messagesOf(const std::string& operation) {
   std::vector<std::string> messages;
   for (const Diagnostic& diagnostic : diagnostics) {

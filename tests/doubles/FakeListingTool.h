@@ -47,7 +47,7 @@ class FakeListingTool : public ListingTool {
 
   void waitUntilExit() override { log->note("waited for"); }
 
-  /// Prints more, which is lost where nobody listens.
+  /// Prints more, which is lost if no output handler is set.
   void print(std::string_view bytes) {
     if (outputHandler_) outputHandler_(bytes);
   }

@@ -12,16 +12,16 @@
 
 namespace launcher {
 
-/// Attributes as the test says, by path; a path without one fails. Answers may be replaced, as
-/// though the attribute changed between two readings.
+/// Attributes by path, as the test sets them. Reading a path without one fails. An answer may be
+/// replaced, as if the attribute had changed between two readings.
 class FakeOriginAttribute : public OriginAttribute {
  public:
   std::map<std::string, std::string> values;
   std::optional<std::ptrdiff_t> probeAnswer;  ///< instead of the size
-  std::optional<std::ptrdiff_t> readAnswer;   ///< instead of the number of bytes, which are written
+  std::optional<std::ptrdiff_t> readAnswer;   ///< instead of the number of written bytes
 
   mutable std::vector<std::string> paths;    ///< of all readings
-  mutable std::vector<std::string> buffers;  ///< as they came
+  mutable std::vector<std::string> buffers;  ///< as they came in
 
   std::ptrdiff_t read(const std::string& path, std::byte* buffer, std::size_t size) const override {
     paths.push_back(path);

@@ -18,7 +18,7 @@ namespace launcher {
 
 using ProcessRecords = std::vector<ProcessRecord>;
 
-/// A record as the table keeps it: what does not fit into 17 bytes is cut, without a NUL then.
+/// A record as the table keeps it. A longer name is cut to 17 bytes and then ends without a NUL.
 inline ProcessRecord processRecord(ProcessId pid, std::string_view name) {
   ProcessRecord record{pid, {}};
   name.copy(record.command.data(), record.command.size());
@@ -33,9 +33,9 @@ inline ProcessRecord processRecord(ProcessId pid, std::string_view name) {
 ///     table.probes = {{.result = -1, .error = EPERM}};       and the first size probe fails
 class FakeProcessTable : public ProcessTable {
  public:
-  /// An answer in the table's place. A size probe leaves the length as it is where the answer has
-  /// none. A fetch then sets it to what it filled in; one that fails sets it to 0, whatever it
-  /// filled in, as the product's kernel does.
+  /// An answer in the table's place. If it has no length, a size probe leaves the length as it is,
+  /// a fetch sets it to what it filled in, and a fetch that fails sets it to 0, whatever it filled
+  /// in, as the product's kernel does.
   struct Answer {
     int result = 0;
     int error = 0;                           ///< `errno` afterwards
@@ -44,7 +44,7 @@ class FakeProcessTable : public ProcessTable {
   };
 
   ProcessRecords processes;                     ///< what the table holds
-  mutable std::deque<ProcessRecords> upcoming;  ///< what it holds before that, a search each
+  mutable std::deque<ProcessRecords> upcoming;  ///< what the first searches find, one entry each
   mutable std::deque<Answer> probes;            ///< what the first size probes answer
   mutable std::deque<Answer> fetches;           ///< what the first fetches answer
   std::set<ProcessId> ended;                    ///< listed, but not running any more

@@ -9,7 +9,7 @@
 
 namespace launcher {
 
-/// Remembers each rest, in seconds, takes none, and logs its end.
+/// Does not rest: notes the seconds of each rest, and logs its end.
 class FakeSleeper : public Sleeper {
  public:
   std::vector<double> sleeps;

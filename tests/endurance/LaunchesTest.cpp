@@ -1,4 +1,4 @@
-// A day's work many times over: what was there before is all that is there after.
+// A day's work many times over. Afterwards this process holds no more than before.
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,7 @@ constexpr int kRounds = 1'000;
 constexpr int kFirstRounds = 100;  // until then caches and pools may fill
 constexpr std::size_t kNoise = 16 << 10;
 
-/// Rests until a condition holds, in the place of the second that it is asked for.
+/// Rests until a condition holds, instead of for the seconds that it is asked for.
 class ConditionSleeper : public Sleeper {
  public:
   explicit ConditionSleeper(std::function<bool()> condition) : condition_(std::move(condition)) {}
@@ -32,7 +32,7 @@ class ConditionSleeper : public Sleeper {
   std::function<bool()> condition_;
 };
 
-/// Runs a round again and again and compares what is there before and after.
+/// Repeats a round, and compares what this process holds before and after.
 template <class Round>
 void expectNothingStays(Round round) {
   const Possessions before = Possessions::counted();
@@ -54,7 +54,7 @@ class LaunchesTest : public testing::Test {
     std::filesystem::copy_file(TEST_CHILDREN "/recording-viewer", folder_.file("bin/vexlink"));
   }
 
-  /// Waits for the end of what an earlier test started.
+  /// Waits until everything that an earlier test started has ended.
   void SetUp() override {
     ASSERT_TRUE(eventually([] { return Possessions::counted().isQuiet(); }))
         << Possessions::counted();

@@ -11,7 +11,7 @@
 
 namespace launcher {
 
-/// What this process has and what it could leave behind on the machine, counted.
+/// Counts what this process holds and what it could leave behind on the machine.
 struct Possessions {
   std::ptrdiff_t descriptors = 0;
   std::ptrdiff_t threads = 0;
@@ -27,7 +27,7 @@ struct Possessions {
             .mounts = lines("/proc/self/mountinfo")};
   }
 
-  /// Whether nothing that an earlier test started goes on.
+  /// Whether nothing that an earlier test started is still running.
   bool isQuiet() const { return threads == 1 && children == 0; }
 
   friend bool operator==(const Possessions&, const Possessions&) = default;

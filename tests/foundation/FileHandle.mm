@@ -16,8 +16,8 @@ namespace {
 
 using Handler = void (^)(StandInFileHandle* handle);
 
-/// Calls the handler whenever there is something to read, and at the end again and again. It holds
-/// handle and handler until it is told to stop.
+/// Calls the handler whenever there is something to read, and again and again at the end. Holds the
+/// handle and the handler until it is told to stop.
 void watch(StandInFileHandle* handle, int descriptor, int stop, Handler handler) {
   std::array<pollfd, 2> events{{{descriptor, POLLIN, 0}, {stop, POLLIN, 0}}};
   while (poll(events.data(), events.size(), -1) > 0 && events[1].revents == 0) {

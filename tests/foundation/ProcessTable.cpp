@@ -1,4 +1,4 @@
-// The kernel's process table out of Linux's own, with the manners of macOS's kernel.
+// The process table as macOS's kernel hands it out, filled from Linux's own.
 
 #include "process/ProcessTable.h"
 
@@ -23,7 +23,7 @@ kinfo_proc recordOf(const launcher::ProcessRecord& read) {
   return record;
 }
 
-/// More than there are, as the kernel leaves room for processes that start meanwhile.
+/// Room for more records than there are: the kernel allows for processes that start meanwhile.
 std::size_t room(const launcher::ProcessTable& table) {
   std::size_t length = 0;
   table.probeSize(length);
@@ -44,7 +44,7 @@ std::vector<kinfo_proc> processes() {
 
 }  // namespace
 
-/// A buffer that is too small gets what fits into it; the size then says 0.
+/// A buffer that is too small gets what fits into it, and the size is set to 0.
 int sysctl(int* /*name*/, unsigned /*length*/, void* buffer, std::size_t* size,
            const void* /*newBuffer*/, std::size_t /*newSize*/) {
   const std::vector<kinfo_proc> records = processes();

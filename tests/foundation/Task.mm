@@ -11,7 +11,7 @@ namespace {
 
 using Handler = void (^)(StandInTask* task);
 
-/// The task that waits for its end, until it goes.
+/// Tells a task's handler of the child's end, as long as the task exists.
 class Waiting {
  public:
   explicit Waiting(StandInTask* task) : task_(task) {}
@@ -23,7 +23,7 @@ class Waiting {
     if (handler != nil) handler_ = Block_copy(handler);
   }
 
-  /// Holds the handler while it is called, the task not.
+  /// Holds the handler during the call, but not the task.
   void end() {
     std::unique_lock lock(mutex_);
     if (handler_ == nil) return;

@@ -4,7 +4,7 @@
 
 namespace launcher {
 
-/// Does something on a thread that is not Foundation's own, as Foundation's threads do it.
+/// Acts on a thread that Foundation did not start, as Foundation acts on its own threads.
 template <class Act>
 void onForeignThread(Act act) {
   GSRegisterCurrentThread();

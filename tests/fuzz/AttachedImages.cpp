@@ -12,7 +12,7 @@
 using namespace launcher;
 using namespace launcher::fuzzing;
 
-/// An image for each device that a mount names, at a path made of the input.
+/// An image at a path made of the input, and one for each device that a mount names.
 static std::vector<LoopDevice> loopsOf(const std::vector<Mount>& mounts, std::string_view text) {
   std::vector<LoopDevice> loops{{std::string(text.substr(0, 200)), {{"loop0", "7:0"}}}};
   for (const Mount& mount : mounts) {
@@ -21,7 +21,7 @@ static std::vector<LoopDevice> loopsOf(const std::vector<Mount>& mounts, std::st
   return loops;
 }
 
-/// Whether one of the texts, each where there is one, is what XML can hold of the bytes.
+/// Whether the record holds the bytes at the key. Bytes that XML cannot hold may come back changed.
 static bool isKept(const PropertyList& record, std::string_view key, const std::string& bytes) {
   const PropertyList* value = valueAt(*record.dictionary(), key);
   if (value == nullptr || value->text() == nullptr) return false;
@@ -49,7 +49,7 @@ FUZZ_TARGET(text) {
   use(tableOf(images));
 
   const auto listing = readPropertyList(propertyListOf(images)).value;
-  if (text.size() > 10'000) return;  // many mounts of many devices may be more than is read
+  if (text.size() > 10'000) return;  // many mounts of many devices may exceed the reader's limits
   require(listing && listing->dictionary() != nullptr, "the listing is a dictionary");
   const PropertyList* records = valueAt(*listing->dictionary(), "images");
   require(records != nullptr && records->array() != nullptr, "it holds the images");

@@ -1,4 +1,5 @@
-// An attribute that gives a location is an array of texts, and the location the first one's folder.
+// An attribute gives a location only if it is an array of texts. The location is the folder of the
+// first text.
 #include "discovery/DownloadOrigin.h"
 
 #include <algorithm>
@@ -10,7 +11,8 @@
 using namespace launcher;
 using namespace launcher::fuzzing;
 
-/// An attribute that holds the input; where it is odd in size it shrinks before it is read.
+/// An attribute that holds the input. If the input's size is odd, the attribute shrinks between the
+/// size probe and the read.
 class InputAttribute : public OriginAttribute {
  public:
   explicit InputAttribute(std::string_view bytes) : bytes_(bytes) {}

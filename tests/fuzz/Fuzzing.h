@@ -6,18 +6,18 @@
 #include <cstdlib>
 #include <string_view>
 
-/// What the fuzz targets share. A target's file is one `FUZZ_TARGET(text) { … }`, which is called
-/// with one input after the other and ends the program where the answer is wrong.
+/// What the fuzz targets share. A target's file holds one `FUZZ_TARGET(text) { … }`. It is called
+/// with one input after the other, and ends the program if an answer is wrong.
 namespace launcher::fuzzing {
 
-/// Ends the program with a report where something that always holds does not.
+/// Ends the program with a report if something that must always hold does not.
 inline void require(bool holds, const char* what) {
   if (holds) return;
   static_cast<void>(std::fprintf(stderr, "wrong: %s\n", what));
   std::abort();
 }
 
-/// Sees what an input gives, so that no call is optimised away.
+/// Uses a result, so that the compiler keeps the call that made it.
 inline void use(std::string_view text) {
   static volatile std::size_t sink = 0;
   sink = sink + text.size();

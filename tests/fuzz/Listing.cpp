@@ -1,4 +1,5 @@
-// What a listing leads to is the path of one of its images, asked for at the application's folder.
+// A listing leads to the path of one of its images. Only images with a volume at the application's
+// folder are asked.
 #include "base/Unicode.h"
 #include "discovery/ImageRecords.h"
 #include "discovery/PropertyList.h"
@@ -23,7 +24,7 @@ static std::string textAt(const PropertyList& record, std::string_view key) {
   return value == nullptr || value->text() == nullptr ? std::string() : *value->text();
 }
 
-/// How many volumes of the listing's images lie at the folder, well-formed or not.
+/// How many volumes in the listing lie at the folder, those of malformed images included.
 static std::size_t volumesAtFolder(const PropertyList& listing) {
   std::size_t count = 0;
   for (const PropertyList& image : arrayAt(listing, "images")) {

@@ -15,13 +15,13 @@
 
 namespace launcher::fuzzing {
 
-/// A second reader of property lists in binary form, with ways of its own: it cuts texts at a NUL,
-/// drops halves of characters and keys that come again, takes sets for arrays, and leaves bytes
-/// that are no ASCII as they are. There it is not asked, or anything counts as agreement. It does
-/// not survive every list, so ask it only about one that was read already.
+/// A second reader of property lists in binary form. It differs in known ways: it cuts texts at a
+/// NUL, drops halves of characters and repeated keys, takes sets for arrays, and leaves bytes
+/// outside ASCII as they are. In these cases it is not asked, or any answer counts as agreement.
+/// Some lists crash it, so ask it only about a list that was read already.
 class PlistReference {
  public:
-  /// Whether it sees the value in the bytes, too.
+  /// Whether it reads the same value from the bytes.
   static bool agrees(std::string_view bytes, const PropertyList& value) {
     if (!isPlain(value)) return true;
     plist_t root = nullptr;
@@ -31,7 +31,7 @@ class PlistReference {
   }
 
  private:
-  /// Whether no text holds a NUL or a replaced character, and every key is there once.
+  /// Whether no text holds a NUL or a replaced character, and no key comes twice.
   static bool isPlain(const PropertyList& value) {
     if (const auto* text = value.text()) return isPlainText(*text);
     if (const auto* array = value.array()) return std::ranges::all_of(*array, isPlain);
@@ -47,7 +47,7 @@ class PlistReference {
            text.find("\ufffd") == std::string_view::npos;
   }
 
-  /// What is nothing to us is not looked into: the library does not survive all of it.
+  /// Skips values that mean nothing to us: some of them crash the library.
   static bool agree(const PropertyList& value, plist_t node) {
     if (const auto* text = value.text()) return agreeOnText(*text, node);
     if (const auto* array = value.array()) return agreeOnArray(*array, node);

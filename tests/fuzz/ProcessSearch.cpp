@@ -1,4 +1,4 @@
-// The search finds the first process whose name begins the one that is sought.
+// The search finds the first process whose name is the beginning of the name that is sought.
 #include <string>
 
 #include "base/Unicode.h"

@@ -1,4 +1,4 @@
-// Conversions lose nothing, and ASCII, which is handled apart, gets the answer of any other text.
+// Conversions lose nothing. ASCII, which is handled apart, gets the same answer as any other text.
 #include <unicode/unistr.h>
 #include <unicode/unorm.h>
 
@@ -32,7 +32,8 @@ static icu::UnicodeString unitsOf(const std::string& text) {
   return icu::UnicodeString::fromUTF8(text);
 }
 
-/// The same by the library that knows all of Unicode, which replaces and compares in its own way.
+/// Compares with a library that knows all of Unicode. The library repairs and compares texts in its
+/// own way.
 static void checkLibrary(const std::string& text, const std::string& other) {
   const std::u16string units = utf16(text);
   require(icu::UnicodeString(units.data(), static_cast<int>(units.size())) == unitsOf(text),

@@ -1,4 +1,4 @@
-// A URL keeps its text, and what is made of one is one again.
+// A URL keeps its text, and what is made of a URL is a URL again.
 #include "base/Url.h"
 
 #include <string>

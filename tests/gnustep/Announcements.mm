@@ -11,7 +11,7 @@ std::vector<std::string>& announcements() {
 
 }  // namespace launcher
 
-/// In the place of GNUstep's, which does nothing.
+/// Replaces GNUstep's function, which does nothing.
 void NSAccessibilityPostNotificationWithUserInfo(id, NSString* notification,
                                                  NSDictionary* information) {
   if (![notification isEqualToString:NSAccessibilityAnnouncementRequestedNotification]) return;

@@ -1,5 +1,5 @@
-// The queue of events, searched from its beginning after each wait. GNUstep goes on where it
-// stopped before the wait and misses an event that was posted meanwhile.
+// Searches the queue of events from its beginning after each wait. GNUstep goes on where it stopped
+// before the wait and misses an event that was posted meanwhile.
 
 #import <AppKit/AppKit.h>
 #import <GNUstepGUI/GSDisplayServer.h>

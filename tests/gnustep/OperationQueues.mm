@@ -29,8 +29,8 @@
   [super dealloc];
 }
 
-/// A queue starts a concurrent operation where it stands. The base class's `start` refuses one that
-/// still says so.
+/// While this is true, a queue calls `start` on the thread that adds the operation. The base
+/// class's `start` refuses an operation for which it is still true.
 - (BOOL)isConcurrent {
   return !_hasThread;
 }
@@ -55,7 +55,7 @@
 
 @implementation NSOperationQueue (BlocksExchange)
 
-/// The modal mode is left out, since no item of the main queue runs while an alert is up.
+/// Leaves out the modal mode, since no item of the main queue runs while an alert is up.
 - (void)launcher_addOperationWithBlock:(void (^)())block {
   @autoreleasepool {
     BlockOperation* operation = [BlockOperation withBlock:block];

@@ -2,7 +2,8 @@
 
 namespace launcher {
 
-// The parts of the stand-in, each in the file of its name. Once, before any window is made.
+// The parts of the stand-in, each in the file of its name. Call each once, before any window is
+// made.
 void installEventQueue();
 void installLayers();
 void installLayoutReading();

@@ -11,7 +11,7 @@ namespace launcher {
 
 std::optional<std::string> prepareToolkit() {
   if (std::getenv("DISPLAY") == nullptr) return "no screen to show windows on";
-  // Later versions bring some of what is exchanged here, and their alerts wait in another way.
+  // Later versions have some of the replaced methods themselves, and their alerts wait differently.
   if (GNUSTEP_GUI_MINOR_VERSION != 29) {
     return "made for GNUstep's AppKit 0.29, this is 0." + std::to_string(GNUSTEP_GUI_MINOR_VERSION);
   }

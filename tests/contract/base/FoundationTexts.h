@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string_view>
 
-/// What the published Foundation answers about Unicode texts, which stand here as code points.
+/// What the published Foundation answers about Unicode texts, given here as code points.
 namespace launcher {
 
 struct CharacterCount {
@@ -11,7 +11,7 @@ struct CharacterCount {
   std::size_t characters;
 };
 
-/// Where user-perceived characters and composed character sequences are the same.
+/// Texts with as many user-perceived characters as composed character sequences.
 inline constexpr CharacterCount kCharacterCounts[] = {
     {"", 0},
     {"0061", 1},
@@ -81,8 +81,8 @@ struct DifferingCount {
   std::size_t composed;    ///< composed character sequences
 };
 
-/// Where they are not: controls with marks, prepended marks, SARA AM, consonants joined by a
-/// virama.
+/// Texts where the two counts differ: controls with marks, prepended marks, SARA AM, consonants
+/// joined by a virama.
 inline constexpr DifferingCount kDifferingCounts[] = {
     {"000D 0308 0020", 3, 2},      {"000D 0308 000D", 3, 2},      {"000D 0308 000A", 3, 2},
     {"000D 0308 0001", 3, 2},      {"000D 034F", 2, 1},           {"000D 0308 034F", 2, 1},

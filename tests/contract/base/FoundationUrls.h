@@ -2,13 +2,13 @@
 
 #include <string_view>
 
-/// What the published Foundation answers to texts that are taken for URLs. Where its two parsers,
-/// of older and of newer systems, differ, the newer one's answer.
+/// What the published Foundation answers to texts that are taken for URLs. It has two parsers, one
+/// of older and one of newer systems. Where they differ, the newer one's answer stands here.
 namespace launcher {
 
 using namespace std::string_view_literals;
 
-/// In the place of an answer: there is none.
+/// Stands where there is no answer.
 inline constexpr std::string_view kAbsent = "(absent)";
 
 struct UrlAnswer {
@@ -83,8 +83,8 @@ inline constexpr UrlAnswer kUrlAnswers[] = {
     {"//host/a", "//host/a", kAbsent, "host"},
 };
 
-/// Texts of which nothing is taken: one of the parsers refuses them, or takes them in a way that
-/// helps nobody.
+/// Texts that give no URL: one of the parsers refuses them, or takes them in a way that helps
+/// nobody.
 inline constexpr std::string_view kNoUrls[] = {
     "https://u@v@vorx.example/d/f",
     "https://[fe80::1%en0]/d/f",

@@ -1,5 +1,5 @@
-// Stands in for the viewer: leaves its arguments, one a line, in RESOURCES/started-PID and runs
-// until SIGTERM, or beyond it where a file RESOURCES/stubborn lies.
+// Stands in for the viewer. Writes its arguments, one a line, to RESOURCES/started-PID and runs
+// until SIGTERM. Ignores SIGTERM if there is a file RESOURCES/stubborn.
 
 #include <unistd.h>
 

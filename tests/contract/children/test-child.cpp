@@ -1,5 +1,5 @@
-// A program for the contract tests to start. Its first argument says what it does; an hour-glass
-// ends it where a test has lost it.
+// A program that the contract tests start. Its first argument says what it does. An alarm ends it
+// if a test has lost it.
 
 #include <fcntl.h>
 #include <pthread.h>
@@ -48,7 +48,7 @@ int printSignals() {
   return 0;
 }
 
-/// Writes this process's identifier and arguments to a file that appears as a whole.
+/// Writes this process's identifier and arguments to a file. The file appears once it is complete.
 void announce(int argc, char** argv) {
   const std::string file = argv[2];
   std::ofstream draft(file + ".draft");
@@ -64,7 +64,7 @@ int announceAndWait(int argc, char** argv) {
   return 0;
 }
 
-/// Goes on in another thread while the first one ends.
+/// Announces itself and waits in a second thread, while the first one ends.
 int announceWithoutFirstThread(int argc, char** argv) {
   std::thread([=] { announceAndWait(argc, argv); }).detach();
   pthread_exit(nullptr);

@@ -8,7 +8,7 @@
 
 namespace launcher {
 
-/// A number in so many bytes, the highest first.
+/// A number in `size` bytes, the highest first.
 inline std::string numberBytes(std::uint64_t value, std::size_t size) {
   std::string bytes(size, '\0');
   for (std::size_t at = size; at > 0; --at, value >>= 8U) {
@@ -17,7 +17,8 @@ inline std::string numberBytes(std::uint64_t value, std::size_t size) {
   return bytes;
 }
 
-/// A property list in binary form, made object by object; whatever is in it may be wrong.
+/// A property list in binary form, made object by object. Nothing is checked, so it may be
+/// malformed.
 struct BinaryList {
   using Numbers = std::vector<std::uint64_t>;
 
@@ -74,7 +75,7 @@ struct BinaryList {
   }
 };
 
-/// An array in an array and so on, that deep.
+/// Arrays nested to this depth.
 inline BinaryList nestedBinaryList(std::uint64_t depth) {
   BinaryList list;
   list.referenceSize = 2;

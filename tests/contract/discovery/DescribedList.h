@@ -26,7 +26,7 @@ inline std::string described(const PropertyList& value) {
   return "other";
 }
 
-/// What reading gives: a value as above, or "error". One of both is always there, never both.
+/// What reading gives: a value as above, or "error". Reading must give exactly one of the two.
 inline std::string describedReading(std::string_view bytes) {
   const PropertyListReading reading = readPropertyList(bytes);
   if (reading.value.has_value() != reading.error.empty()) return "a value and an error, or neither";

@@ -14,13 +14,13 @@ inline constexpr const char* kWhereFroms = "com.apple.metadata:kMDItemWhereFroms
 inline constexpr const char* kWhereFroms = "user.com.apple.metadata:kMDItemWhereFroms";
 #endif
 
-/// Makes an empty file. Its path.
+/// Makes an empty file and returns its path.
 inline std::string makeFile(const std::string& path) {
   std::ofstream stream(path);
   return path;
 }
 
-/// Gives a file an attribute. False where its file system keeps none of that size.
+/// Gives a file an attribute. False if its file system cannot keep one of that size.
 inline bool setAttribute(const std::string& path, const char* name, const std::string& value) {
 #ifdef __APPLE__
   return setxattr(path.c_str(), name, value.data(), value.size(), 0, 0) == 0;

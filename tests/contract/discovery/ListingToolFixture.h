@@ -16,7 +16,7 @@
 
 namespace launcher {
 
-/// What the handlers were called with. A tool's end may be told after the test's own.
+/// What the handlers were called with. A tool's exit may be reported after the test has ended.
 struct Seen {
   std::mutex mutex;
   std::string output;
@@ -25,7 +25,7 @@ struct Seen {
   std::atomic<int> exits = 0;
 };
 
-/// Runs of a shell script in the tool's place, each watched by handlers of its own.
+/// Runs a shell script in the tool's place. Each run has handlers of its own.
 class ListingToolTest : public testing::Test {
  protected:
   /// Puts a script into the tool's place.

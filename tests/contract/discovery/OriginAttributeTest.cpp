@@ -26,7 +26,7 @@ class OriginAttributeTest : public testing::Test {
 
   std::ptrdiff_t probe(const std::string& path) const { return attribute_->read(path, nullptr, 0); }
 
-  /// What a reading into a buffer of so many bytes gives: the answer, and the buffer with "." where
+  /// What reading into a buffer of `size` bytes gives: the answer, and the buffer with "." where
   /// nothing was written.
   std::string readInto(std::size_t size, const std::string& path) const {
     std::vector<std::byte> buffer(size, std::byte{'.'});

@@ -1,4 +1,4 @@
-// How far a property list may go.
+// How deep and how large a property list may be.
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@ namespace {
 
 using namespace std::string_literals;
 
-/// What was wrong with the bytes; empty where nothing was.
+/// What was wrong with the bytes; empty if nothing was.
 std::string errorOf(std::string_view bytes) { return readPropertyList(bytes).error; }
 
 TEST(PropertyListLimitsTest, BinaryValuesMustNotLieInManyOthers) {

@@ -388,7 +388,7 @@ TEST(PropertyListTest, ABinaryListCutOffAnywhereIsNoList) {
                   BinaryList::text(u"\u00e9"), "\x33" + std::string(8, '\0')};
   const std::string whole = list.bytes();
   ASSERT_EQ(describedReading(whole), "{key: ['\u00e9', other]}");
-  // What is too short to be known for a binary list is a word in macOS's text form.
+  // Bytes too short to be recognised as a binary list are a word in macOS's text form.
   const std::size_t known = list.magic.size() - 1;
   for (std::size_t size = known; size < whole.size(); ++size) {
     expectReading(whole.substr(0, size), "error");
@@ -399,7 +399,7 @@ TEST(PropertyListTest, ABinaryListCutOffAnywhereIsNoList) {
   expectReading(whole + '\0', "error");
 }
 
-/// A binary list of one text whose trailer says what the test wants.
+/// A binary list of one text, with a trailer that the test chooses.
 struct TrailerCase {
   std::uint64_t offsetSize = 1;
   std::uint64_t referenceSize = 1;

@@ -8,7 +8,8 @@
 
 namespace launcher {
 
-/// Whether this process's memory can be limited: a sanitizer needs the address space.
+/// Whether this process's memory can be limited. It cannot under a sanitizer, which needs the
+/// address space.
 #if defined(__SANITIZE_ADDRESS__) || __has_feature(address_sanitizer) || \
     __has_feature(thread_sanitizer)
 inline constexpr bool memoryCanBeLimited = false;
@@ -22,7 +23,7 @@ inline std::size_t addressSpace() {
   return pages * static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
 }
 
-/// From now on this process may take no more than 64 MB besides what it has.
+/// Limits this process to 64 MB more memory than it has now.
 inline void limitMemoryTo64MB() {
   rlimit limits{};
   limits.rlim_cur = limits.rlim_max = addressSpace() + (64U << 20U);

@@ -1,5 +1,5 @@
-// The values and layouts of macOS that the application's outcome depends on. They are part of the
-// system's binary interface; a set of declarations that says otherwise does not compile.
+// The values and layouts of macOS that the application depends on. They are part of the system's
+// binary interface. This file does not compile against declarations that differ.
 
 #include <CFNetwork/CFNetwork.h>
 #import <Foundation/Foundation.h>
@@ -14,7 +14,7 @@
 namespace launcher {
 namespace {
 
-// The question to the process table, and the parts of a record that are read.
+// How the process table is asked, and which parts of a record are read.
 static_assert(CTL_KERN == 1 && KERN_PROC == 14 && KERN_PROC_ALL == 0);
 static_assert(sizeof(kinfo_proc) == 648);
 static_assert(offsetof(kinfo_proc, kp_proc) == 0);

@@ -1,5 +1,5 @@
-// Texts that nobody types: pasted by mistake, or made to break something. Each is judged all the
-// same, and takes no other time than its length explains.
+// Texts that nobody types: pasted by mistake, or made to break something. Each is judged like any
+// other, and takes no more time than its length explains.
 
 #include <gtest/gtest.h>
 

@@ -7,7 +7,7 @@
 #include "tests/contract/net/FoundLink.h"
 #include "tests/contract/net/OnThreads.h"
 
-// What is known of the platform's own detector, and what the well-kept ones agree on.
+// What is known of the platform's own detector, and what well-kept detectors agree on.
 namespace launcher {
 namespace {
 
@@ -164,8 +164,8 @@ TEST(LinkDetectorTest, ServesTheAddressChecks) {
   for (const CheckCase& check : kCases) expectChecked(check);
 }
 
-// The range searched has as many units as the text has characters, so each character of two units
-// leaves out a unit at the end. A blank there makes up for one of them.
+// The range searched has as many units as the text has characters. So each character of two units
+// leaves out a unit at the end, and a blank there makes up for one of them.
 TEST(LinkDetectorTest, CharactersOfSeveralUnitsShortenTheRange) {
   constexpr CheckCase kCases[] = {
       {"https://h.example/\U0001f600", false, "absent", "absent"},

@@ -6,7 +6,7 @@
 
 namespace launcher {
 
-/// How often a check held, made by several threads at once, so many times by each.
+/// How many checks succeed when `threads` threads at once make `rounds` checks each.
 template <typename Check>
 int successesOnThreads(int threads, int rounds, const Check& check) {
   std::atomic<int> successes = 0;

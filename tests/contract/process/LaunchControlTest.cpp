@@ -21,8 +21,8 @@
 namespace launcher {
 namespace {
 
-/// The whole launch with a real table, real programs and short waits. Viewers that somebody else
-/// runs on the machine meanwhile cost more waits and change nothing else.
+/// The whole launch with a real table, real programs and short waits. Other people's viewers on
+/// this machine only make it wait longer.
 class RealLaunchTest : public testing::Test {
  public:
   RealLaunchTest() {
@@ -40,7 +40,7 @@ class RealLaunchTest : public testing::Test {
   }
 
  protected:
-  /// Launches, and gives the new viewer's identifier.
+  /// Launches and returns the new viewer's identifier.
   ProcessId launch(const std::string& location = "host", const std::string& ip = "1.2.3.4") {
     control_.launchProc(location, ip);
     ProcessId started = noProcess;
@@ -80,7 +80,7 @@ class RealLaunchTest : public testing::Test {
 
 TEST_F(RealLaunchTest, TheViewerGetsHostAddressAndResources) {
   const ProcessId viewer = launch("vorx.example.com", "");
-  EXPECT_PRED2(canonicallyEqual, recordOf(viewer),  // macOS hands on letters decomposed
+  EXPECT_PRED2(canonicallyEqual, recordOf(viewer),  // macOS passes letters on decomposed
                resources_ + "/bin/vexlink\n-l\nvorx.example.com\n-i\n\n-r\n" + resources_ + "\n");
   EXPECT_TRUE(isThere(viewer));
 }

@@ -14,7 +14,7 @@
 
 namespace launcher {
 
-/// A real process whose executable bears a name of the test's choice; stopped with this object.
+/// A real process whose executable has a name of the test's choice. It is stopped with this object.
 ///
 ///     NamedProcess("some-name").pid()
 class NamedProcess {
@@ -38,12 +38,13 @@ class NamedProcess {
 
   ProcessId pid() const { return pid_; }
 
-  /// Its identifier and the arguments after the announcement's file, each in brackets, in lines.
+  /// Its identifier and the arguments after the announcement's file, one a line, arguments in
+  /// brackets.
   const std::string& announced() const { return announced_; }
 
   RunningProcess& handle() const { return *handle_; }
 
-  /// Lets the handle go without a signal.
+  /// Drops the handle without sending a signal.
   void dropHandle() { handle_.reset(); }
 
   void stop() {

@@ -25,17 +25,17 @@ const ProcessTable& table() {
 
 ProcessId search(std::string_view name) { return ProcessHelpers::getRunningProcess(name, table()); }
 
-/// A start of a name that no other process on the machine has.
+/// The beginning of a name that no other process on the machine has.
 std::string own() { return "zq" + std::to_string(getpid()); }
 
-/// A name of exactly so many bytes, as unique.
+/// A name of exactly `bytes` bytes that no other process has.
 std::string ownOf(std::size_t bytes) {
   std::string name = own();
   name.resize(bytes, '-');
   return name;
 }
 
-/// A fetch into a buffer of so many bytes, with more behind it.
+/// A fetch into a buffer of `capacity` bytes, with more memory behind it.
 struct Fetch {
   explicit Fetch(std::size_t capacity)
       : buffer(capacity + table().recordSize(), untouched),
@@ -51,10 +51,10 @@ struct Fetch {
     return found;
   }
 
-  /// Whether so many bytes were filled with records of processes, and none behind them.
+  /// Whether the first `bytes` bytes were filled with records of processes, and none behind them.
   bool fills(std::size_t bytes) const {
     for (std::size_t at = 0; at < bytes; at += table().recordSize()) {
-      if (table().read(buffer.data() + at).pid < 0) return false;  // as what is untouched reads
+      if (table().read(buffer.data() + at).pid < 0) return false;  // untouched memory reads so
     }
     return std::all_of(buffer.begin() + static_cast<std::ptrdiff_t>(bytes), buffer.end(),
                        [](std::byte byte) { return byte == untouched; });

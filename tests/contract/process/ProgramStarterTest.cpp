@@ -17,7 +17,7 @@ std::string own() { return "zp" + std::to_string(getpid()); }
 
 TEST(ProgramStarterTest, PassesExactlyTheseArgumentsWithoutAShell) {
   const NamedProcess process(own(), "announce", {"-l", "", "a b", "$HOME;\"x\" *", "\u00e9"});
-  EXPECT_PRED2(canonicallyEqual, process.announced(),  // macOS hands on letters decomposed
+  EXPECT_PRED2(canonicallyEqual, process.announced(),  // macOS passes letters on decomposed
                std::to_string(process.pid()) + "\n[-l]\n[]\n[a b]\n[$HOME;\"x\" *]\n[\u00e9]\n");
 }
 
@@ -35,7 +35,7 @@ TEST(ProgramStarterTest, TerminateEndsTheProgram) {
   EXPECT_TRUE(isThere(process.pid()));
   process.handle().terminate();
   EXPECT_TRUE(eventually([&] { return !isThere(process.pid()); }));
-  process.handle().terminate();  // which finds nothing to do
+  process.handle().terminate();  // finds nothing to do
 }
 
 TEST(ProgramStarterTest, ADroppedHandleLeavesTheProgramRunning) {

@@ -1,5 +1,5 @@
-// Stands before the system's kill in a program that preloads it: each signal that is sent is
-// recorded with whom it is for.
+// Replaces the system's `kill` in a program that preloads it: records whom each signal is for, then
+// passes the signal on.
 
 #include <dlfcn.h>
 

@@ -6,15 +6,15 @@
 #include <cstdlib>
 #include <string>
 
-/// What a double needs from the test: a variable of the environment. Ends the program without it.
+/// The value of an environment variable that the test must set. Ends the program if it is not set.
 inline const char* variable(const char* name) {
   const char* value = std::getenv(name);
   if (value == nullptr) std::exit(EXIT_FAILURE);
   return value;
 }
 
-/// Writes a line with this process and what it has met to the file that RECORD names. Ends the
-/// program where that fails.
+/// Adds a line with this process and the event to the file that RECORD names. Ends the program if
+/// that fails.
 inline void record(const char* event) {
   const std::string line = std::to_string(getpid()) + " " + event + "\n";
   const int descriptor = open(variable("RECORD"), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0644);

@@ -1,5 +1,5 @@
-// Stands before the system's resolver in a program that preloads it: each lookup of a name is
-// recorded, and waits until somebody opens the FIFO that ANSWERS names.
+// Replaces the system's resolver in a program that preloads it: records each lookup of a name, then
+// waits until somebody opens the FIFO that ANSWERS names.
 
 #include <dlfcn.h>
 #include <fcntl.h>

@@ -36,7 +36,7 @@ class NotingLinkDetector : public WordLinkDetector {
   mutable std::string lastText;
 };
 
-/// Every file came from the same address, if from any.
+/// Gives every file the same address, or none at all.
 class OneOrigin : public OriginAttribute {
  public:
   std::string list;

@@ -1,4 +1,4 @@
-// The controller with real threads: what is meant to overlap does, and nothing is shared unguarded.
+// The controller with real threads. What should overlap does, and nothing is shared unguarded.
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@
 namespace launcher {
 namespace {
 
-/// A resolver that takes until it is let go.
+/// A resolver that does not answer until it is let go.
 class SlowResolver : public HostResolver {
  public:
   std::optional<std::vector<SocketAddress>> addresses(const std::string& host) const override {

@@ -45,7 +45,7 @@ class ListingRunTest : public testing::Test {
     while (!has(event)) std::this_thread::yield();
   }
 
-  /// The listing's text at "images", for each time that it was judged.
+  /// The listing's text at "images", once for each time that the listing was judged.
   std::vector<std::string> judged() const {
     std::vector<std::string> texts;
     for (const auto& listing : listings_) texts.push_back(*valueAt(listing, "images")->text());

@@ -213,8 +213,8 @@ TEST_F(LaunchControlTest, TerminateWithoutViewerDoesNothing) {
   EXPECT_EQ(table_.searches, 0);
 }
 
-/// Every member is called from within, as another thread may at that moment: it deadlocks where a
-/// lock is held while the launch waits, starts or stops.
+/// The doubles call every member from within, as another thread may at that moment. That deadlocks
+/// if a lock is held while the launch waits, starts or stops.
 TEST_F(LaunchControlTest, NoLockIsHeldWhileItWaitsStartsOrStops) {
   FakeRunningProcess& earlier = launch();
   int calls = 0;
@@ -233,7 +233,7 @@ TEST_F(LaunchControlTest, NoLockIsHeldWhileItWaitsStartsOrStops) {
   EXPECT_EQ(calls, 4);
 }
 
-/// Services without memory, for several threads at once.
+/// Doubles that keep nothing, so that several threads may use them at once.
 struct EmptyTable : FakeProcessTable {
   int probeSize(std::size_t& length) const override {
     length = 0;

@@ -118,7 +118,7 @@ TEST(ProcessHelpersTest, EverySearchTakesAFreshSnapshot) {
   EXPECT_EQ(table.searches, 3);
 }
 
-/// The snapshot, as a search shows it: on a table of one viewer, 7.
+/// The snapshot of the process table, seen through a search. The table holds one viewer, 7.
 class SnapshotTest : public testing::Test {
  protected:
   SnapshotTest() { table_.processes = {process(7, "vexlink")}; }
@@ -240,7 +240,7 @@ TEST_F(SnapshotTest, AnotherPassStartsFromAnArrayOfZeros) {
   expectFound(noProcess);
 }
 
-// What a fetch says of the length does not shorten the array.
+// The length that a fetch reports does not shorten the array.
 TEST_F(SnapshotTest, RecordsBehindTheReturnedLengthAreSearched) {
   for (const int result : {0, -1}) {
     table_.probes = {{.length = 2 * recordBytes}};

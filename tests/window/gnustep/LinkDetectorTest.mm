@@ -1,5 +1,5 @@
 // What the link detector of macOS makes of the platform's answers. The platform's detector is not
-// known outside; this one cuts a link at the end of its range, as the real one is said to.
+// available here. Its double cuts a link at the end of its range, as the real one is said to.
 
 #import <Foundation/Foundation.h>
 #include <gtest/gtest.h>
@@ -66,7 +66,7 @@ std::vector<std::string> questions;
 }
 @end
 
-// The other system's detector has this name already.
+// The other platform's detector has this name already.
 #define makeLinkDetector makeDataDetector
 #include "net/mac/LinkDetector.mm"
 

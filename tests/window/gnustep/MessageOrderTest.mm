@@ -1,5 +1,5 @@
-// The order in which a class's messages are listed. The platform's own runtime forgets it; there it
-// is seen in the program's file.
+// The order in which a class lists its messages. The runtime of macOS does not keep it; there it
+// shows only in the program's file.
 
 #include <gtest/gtest.h>
 

@@ -12,7 +12,7 @@ constexpr const char* enterLocationText = "Enter valid Vorx location to enable l
 constexpr const char* startText = "Press launch button to start remote control";
 constexpr const char* restartText = "Press launch button to re-start remote control";
 
-/// The colour that is painted behind a field's text, right of it.
+/// The colour behind a field's text, taken right of the text.
 QColor background(QLineEdit& field) {
   const QImage picture = field.grab().toImage();
   return picture.pixelColor(picture.width() - 20, picture.height() / 2);
@@ -117,7 +117,7 @@ class Paints : public QObject {
 TEST_F(StateTest, AKeyPaintsOnlyWhatItChanges) {
   open();
   enterLocation();
-  window_->repaint();  // what is still to be painted
+  window_->repaint();  // paints what is pending
   const Paints others(std::vector<QWidget*>{&button(), &statusLine(), &ipAddress()});
   const Paints location(std::vector<QWidget*>{&this->location()});
   type("/");

@@ -22,7 +22,7 @@
 
 namespace launcher {
 
-/// Handles events until the condition holds, for at most a minute. Whether it came to hold.
+/// Handles events until the condition holds, for at most a minute. Returns whether it held in time.
 inline bool eventually(const std::function<bool()>& condition) {
   return QTest::qWaitFor(condition, 60'000);
 }

@@ -4,7 +4,7 @@
 
 namespace {
 
-/// This platform's remarks on what it cannot do are beside the point.
+/// Drops the platform plugin's messages about what it cannot do: the tests do not need it.
 void dropToolkitMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
 
 }  // namespace
@@ -12,7 +12,7 @@ void dropToolkitMessage(QtMsgType, const QMessageLogContext&, const QString&) {}
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  qputenv("LC_ALL", "de_AT.UTF-8");  // whether or not there is such a locale here
+  qputenv("LC_ALL", "de_AT.UTF-8");  // need not be installed here
   qunsetenv("LANGUAGE");
   qInstallMessageHandler(dropToolkitMessage);
   const QApplication application(argc, argv);

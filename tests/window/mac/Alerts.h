@@ -6,13 +6,13 @@
 #include <string>
 #include <vector>
 
-/// Does something while an alert is up.
+/// Runs an action while an alert is up.
 @interface DuringAlert : NSObject {
   std::function<void()> _action;
   NSTimeInterval _delay;
 }
 
-/// On the main thread, once an alert is up and these seconds have passed.
+/// Runs the action on the main thread, once an alert is up and these seconds have passed.
 + (void)after:(NSTimeInterval)seconds do:(std::function<void()>)action;
 
 @end

@@ -7,7 +7,7 @@
 
 @implementation DuringAlert
 
-/// From another thread, which wakes the alert's loop up as an event does.
+/// Waits on another thread, which then wakes the alert's loop as an event does.
 + (void)after:(NSTimeInterval)seconds do:(std::function<void()>)action {
   DuringAlert* during = [[[DuringAlert alloc] init] autorelease];
   during->_action = std::move(action);
@@ -25,7 +25,7 @@
   }
 }
 
-/// An alert that is still coming up hears no key.
+/// Waits again while the alert is still coming up: it takes no keys yet.
 - (void)act {
   const bool isUp = [[NSApp modalWindow] isVisible];
   if (!isUp) return [NSThread detachNewThreadSelector:@selector(wait) toTarget:self withObject:nil];
@@ -39,7 +39,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-/// Those of a kind that are shown, however deep the toolkit puts them.
+/// The views of a kind that are shown, however deep the toolkit nests them.
 void addShown(NSView* view, Class kind, NSMutableArray* shown) {
   if ([view isHidden]) return;
   if ([view isKindOfClass:kind]) [shown addObject:view];

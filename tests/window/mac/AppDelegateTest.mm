@@ -17,7 +17,7 @@
 
 namespace launcher {
 
-/// Those that quitting asks for.
+/// The services that quitting uses.
 const PlatformServices& platformServices() {
   static const auto* const instance = [] {
     auto* made = new PlatformServices;
@@ -33,8 +33,7 @@ FakeProcessTable& processesAtQuit() {
   return dynamic_cast<FakeProcessTable&>(*platformServices().processes);
 }
 
-/// A program that waits to be signalled; it runs already. It does not hold back the signals that
-/// this one does.
+/// Starts a program that waits to be signalled. It does not inherit this program's blocked signals.
 pid_t startSleeper() {
   std::string name = "sleep";
   std::string seconds = "600";

@@ -32,14 +32,14 @@ id callSecondInitialiser(id self, SEL, NSCoder*) {
   return nil;
 }
 
-/// Stands in for a message of NSViewController for as long as this lives. An initialiser fails.
+/// Replaces a message of NSViewController as long as this lives. A replaced initialiser fails.
 class BaseClassMessage {
  public:
   template <class Function>
   BaseClassMessage(SEL message, Function stand, std::function<void(ViewController*)> action)
       : method_(class_getInstanceMethod([NSViewController class], message)) {
     whenCalled = std::move(action);
-    // By way of void*: compilers warn of a cast between types of functions.
+    // Cast by way of void*: compilers warn of a cast between types of functions.
     void* const implementation = reinterpret_cast<void*>(stand);
     before_ = method_setImplementation(method_, reinterpret_cast<IMP>(implementation));
   }

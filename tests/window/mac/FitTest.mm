@@ -16,7 +16,7 @@ const char* const statusTexts[] = {
     "Looking up IP Address for the Vorx",
 };
 
-/// From the language's own table; nil where that lacks the text.
+/// The text in the language's own table; nil if the table lacks it.
 NSString* inLanguage(NSString* language, const char* key) {
   NSString* folder = [[NSBundle mainBundle] pathForResource:language ofType:@"lproj"];
   NSString* text = [[NSBundle bundleWithPath:folder] localizedStringForKey:toNSString(key)

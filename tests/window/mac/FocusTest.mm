@@ -7,7 +7,7 @@
 #import "tests/window/mac/Stage.h"
 #import "tests/window/mac/Windows.h"
 
-/// Notes whether it is edited when it is disabled, and lets go of the focus when its text is set,
+/// Notes whether it is being edited when it is disabled. Gives up the focus when its text is set,
 /// as a field of the platform may.
 @interface LettingGoField : NSTextField {
  @public
@@ -49,7 +49,7 @@ class FocusTest : public testing::Test {
     return selected.location == start && selected.length == length;
   }
 
-  /// In the place of the location field, with the focus.
+  /// Replaces the location field with one that has the focus.
   LettingGoField* lettingGoField() {
     NSRect frame = [location() frame];
     LettingGoField* field = [[[LettingGoField alloc] initWithFrame:frame] autorelease];
@@ -144,7 +144,7 @@ TEST_F(FocusTest, AFoundLocationGivesItBackIfTheFieldLosesIt) {
   EXPECT_EQ(textOf(field), "https://h/");
 }
 
-/// Even where the address was edited before, so that the next key edits the location.
+/// Even if the address was edited before. The next key then edits the location.
 TEST_F(FocusTest, AfterTheAlertItIsInTheLocationField) {
   type(shown_.window(), @"https://nohost.invalid/");
   select(8, 6);

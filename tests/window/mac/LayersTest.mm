@@ -9,7 +9,7 @@
 
 #import "tests/window/mac/Stage.h"
 
-/// Notes what is done about its layer, and keeps none where it is told so.
+/// Notes what is done to its layer, and keeps no layer if told so.
 @interface LayerNotingField : NSTextField {
  @public
   std::vector<std::string> _notes;
@@ -66,7 +66,7 @@ class LayersTest : public testing::Test {
 
 TEST_F(LayersTest, AFieldIsLayerBackedBeforeItIsGivenItsLayer) {
   load();
-  // AppKit and its stand-in may hand a layer of their own over in between.
+  // AppKit and its stand-in may set a layer of their own in between.
   for (LayerNotingField* field in @[ location_, ip_ ]) {
     ASSERT_FALSE(field->_notes.empty());
     EXPECT_EQ(field->_notes.front(), "wants layer");

@@ -31,14 +31,14 @@ struct Stage {
   std::string listing;  ///< what the listing tool prints; empty: it cannot be started
 };
 
-/// The one that all windows are on. Everything that ran before is over.
+/// The stage that all windows share.
 Stage& stage();
 
-/// As it was at the beginning.
+/// Ends what was launched, and sets the stage back to its beginning.
 void clearStage();
 
-/// Lets the application handle what comes until the condition holds; false where it does not do so
-/// in half a minute.
+/// Lets the application handle what comes until the condition holds. False if it does not hold
+/// within half a minute.
 bool eventually(const std::function<bool()>& condition);
 
 /// Lets the application handle what has come already.
@@ -47,7 +47,7 @@ void settle();
 /// A controller whose view has loaded and whose search is over; autoreleased.
 ViewController* loadedController();
 
-/// Waits for the controller's background work and what that posted.
+/// Waits for the controller's background work and for what that work posted.
 void finishWork(ViewController* controller);
 
 std::string textOf(NSTextField* field);

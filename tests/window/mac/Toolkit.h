@@ -5,8 +5,8 @@
 
 namespace launcher {
 
-/// Makes AppKit, or what stands in for it, ready for these tests. Once, before anything else. Gives
-/// the reason where the tests cannot run here, such as that there is no screen.
+/// Makes AppKit, or its stand-in, ready for these tests. Call it once, before anything else.
+/// Returns the reason if the tests cannot run here, such as that there is no screen.
 std::optional<std::string> prepareToolkit();
 
 }  // namespace launcher

@@ -4,7 +4,7 @@
 
 namespace launcher {
 
-/// AppKit is ready as it is. Someone logged in from elsewhere has no screen.
+/// AppKit needs no preparation. A remote login has no screen.
 std::optional<std::string> prepareToolkit() {
   const CFDictionaryRef session = CGSessionCopyCurrentDictionary();
   if (session == nullptr) return "no screen to show windows on";

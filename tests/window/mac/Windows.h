@@ -18,7 +18,7 @@ class LauncherWindowOnScreen {
   ViewController* controller() const;
 
  private:
-  NSArray* objects_ = nil;  // what the layout resource holds besides
+  NSArray* objects_ = nil;  // the layout resource's other objects
   NSWindow* window_ = nil;
 };
 
@@ -27,7 +27,7 @@ void type(NSWindow* window, NSString* text);
 void tab(NSWindow* window);
 void backtab(NSWindow* window);
 
-/// Does to whatever is being edited, or to what it lies in, what a menu's item does.
+/// Does what a menu's item does, to whatever is being edited or to what that lies in.
 void choose(NSWindow* window, SEL action);
 
 }  // namespace launcher

@@ -26,7 +26,7 @@ LauncherWindowOnScreen::LauncherWindowOnScreen() {
   finishWork(controller());
   [NSApp activateIgnoringOtherApps:YES];
   [window_ makeKeyAndOrderFront:nil];
-  // An application that the system holds back has no key window.
+  // The system may keep an application inactive; it then has no key window.
   eventually([this] { return [window_ isKeyWindow] || ![NSApp isActive]; });
 }
 

@@ -204,7 +204,7 @@ TEST(SpawnTest, ADroppedChildRunsOnAndIsReaped) {
 }
 
 TEST(SpawnTest, AChildReapedBehindItsBackCountsAsEnded) {
-  const auto before = std::signal(SIGCHLD, SIG_IGN);  // has the kernel reap
+  const auto before = std::signal(SIGCHLD, SIG_IGN);  // makes the kernel reap children
   const auto child = spawn({.path = testChild, .arguments = {"exit"}});
   ASSERT_NE(child, nullptr);
   child->waitUntilExit();
@@ -238,8 +238,8 @@ TEST(SpawnTest, ServesSeveralThreadsAtOnce) {
   EXPECT_TRUE(hasNoChildren());
 }
 
-/// Whether a child process of this one that bears `pid` has SIGTERM pending after `action`; absent
-/// where another process got the identifier first.
+/// Whether a child of this process with the identifier `pid` has SIGTERM pending after `action`.
+/// Absent if another process got the identifier first.
 std::optional<bool> strangerIsSignalled(pid_t pid, const std::function<void()>& action) {
   sigset_t term;
   sigset_t before;
@@ -263,7 +263,7 @@ std::optional<bool> strangerIsSignalled(pid_t pid, const std::function<void()>& 
   return stranger == pid ? std::optional(WEXITSTATUS(status) == 1) : std::nullopt;
 }
 
-/// The same, with new attempts where the identifier could not be had.
+/// The same, tried again while other processes get the identifier.
 template <class MakeAction>
 std::optional<bool> strangerIsSignalledAfterAll(MakeAction makeAction) {
   for (int attempt = 0; attempt < 50; ++attempt) {
@@ -335,7 +335,7 @@ TEST(SpawnTest, TooLongArgumentsGiveNull) {
   EXPECT_EQ(spawn({.path = testChild, .arguments = {std::string(64 << 20, 'x')}}), nullptr);
 }
 
-/// Runs on its own in a process of its own, where a limit harms nobody else.
+/// Each test runs in a process of its own, where a limit harms nobody else.
 class SpawnDeathTest : public testing::Test {
  protected:
   SpawnDeathTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
@@ -363,7 +363,7 @@ TEST_F(SpawnDeathTest, WithoutProcessesGivesNullAndLeavesNothing) {
     bool passed = setresuid(user, user, user) == 0;
     limit(RLIMIT_NPROC, lastingThreads);  // this process alone
     passed = passed && !starts();
-    limit(RLIMIT_NPROC, lastingThreads + 1);  // and a thread, but no child
+    limit(RLIMIT_NPROC, lastingThreads + 1);  // this process and a thread, but no child
     passed = passed && !starts();
     limit(RLIMIT_NPROC, lastingThreads + 2);
     passed = passed && eventually([] { return starts(); }) && hasNoChildren();
@@ -396,7 +396,7 @@ TEST_F(SpawnDeathTest, WithoutMemoryGivesNullAndLeavesNothing) {
   if (!memoryCanBeLimited) GTEST_SKIP() << "the sanitizer needs the address space";
   const auto run = [] {
     SpawnOptions large{.path = "/bin/true", .arguments = std::vector<std::string>(100'000)};
-    limit(RLIMIT_AS, 0);  // whatever is still to be mapped fails: a thread's stack, a large vector
+    limit(RLIMIT_AS, 0);  // every new mapping fails: a thread's stack, a large vector
     const bool passed = !starts() && spawn(std::move(large)) == nullptr;
     limit(RLIMIT_AS, RLIM_INFINITY);
     finish(passed && starts() && hasNoChildren());

@@ -12,8 +12,8 @@
 #include "tests/contract/base/CodePointNotation.h"
 #include "tests/contract/base/FoundationTexts.h"
 
-// The Unicode Consortium's own test files, where the system has them, and what our count makes of
-// the texts that are counted in two ways on macOS.
+// The Unicode Consortium's own test files, where the system has them, and our count of the texts
+// that macOS counts in two ways.
 namespace launcher {
 namespace {
 

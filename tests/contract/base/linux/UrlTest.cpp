@@ -5,7 +5,7 @@
 #include "base/Url.h"
 #include "tests/contract/base/FoundationUrls.h"
 
-// What the platforms' own URL types leave open or do differently from one version to the next.
+// What the platforms' own URL types leave open, or change from one version to the next.
 namespace launcher {
 namespace {
 

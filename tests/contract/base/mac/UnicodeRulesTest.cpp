@@ -4,7 +4,7 @@
 #include "tests/contract/base/CodePointNotation.h"
 #include "tests/contract/base/FoundationTexts.h"
 
-// Composed character sequences stand for characters here.
+// On macOS, composed character sequences count as characters.
 namespace launcher {
 namespace {
 

@@ -18,7 +18,7 @@
 
 namespace launcher {
 
-/// A variable of the environment that has another value for a while; the empty one removes it.
+/// Gives an environment variable another value for a while. An empty value removes the variable.
 class Variable {
  public:
   Variable(const char* name, const std::string& value) : name_(name) {
@@ -38,8 +38,8 @@ class Variable {
   std::string before_;
 };
 
-/// A session's bus of the test's own, with the store of metadata behind it; whatever it starts ends
-/// with it. The environment points to it meanwhile.
+/// A session bus of the test's own, with the store of metadata behind it. While it lives, the
+/// environment points to it. Everything that it starts ends with it.
 class DesktopSession {
  public:
   DesktopSession() {

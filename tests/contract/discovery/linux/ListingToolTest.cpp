@@ -16,7 +16,7 @@
 namespace launcher {
 namespace {
 
-/// What the tool takes of this process, and where it lies.
+/// Where the tool lies, and which resources of this process it uses.
 class LinuxListingToolTest : public ListingToolTest {};
 
 TEST_F(LinuxListingToolTest, LiesAmongTheResources) {
@@ -55,7 +55,7 @@ TEST_F(LinuxListingToolTest, NothingIsLeftBesideAGrandchildThatHoldsTheOutputOpe
   sendSignal(grandchild, SIGKILL);
 }
 
-/// Lets this process open nothing more for a while.
+/// Keeps this process from opening anything for a while.
 class NoDescriptors {
  public:
   NoDescriptors() {

@@ -1,5 +1,5 @@
-// The desktop's store of metadata: the real one on a bus of the test's own, and tools that behave
-// as the real one should not.
+// The desktop's store of metadata: the real one on a bus of the test's own, and tools that
+// misbehave.
 
 #include <gtest/gtest.h>
 
@@ -20,7 +20,7 @@
 namespace launcher {
 namespace {
 
-/// A tool that runs a script of the shell in the place of the desktop's.
+/// Runs a shell script in place of the desktop's tool.
 class MetadataToolTest : public testing::Test {
  protected:
   std::optional<std::string> answerOf(const std::string& script,
@@ -110,7 +110,7 @@ class MetadataStoreTest : public testing::Test {
     return patientAnswer(file_) == address;
   }
 
-  /// A busy machine may take longer than a person would wait.
+  /// Allows a minute: a busy machine may take longer than a person would wait.
   static std::optional<std::string> patientAnswer(const std::string& file) {
     return downloadAddress(file, {.limit = std::chrono::minutes(1)});
   }

@@ -1,4 +1,4 @@
-// What downloaders on Linux record, an address alone, is presented as a list of one.
+// Downloaders on Linux record an address alone. It is presented as a list of one.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// What the reader on Linux does in its own way, and with how little memory it refuses a list.
+// What only the reader on Linux does, and how little memory it needs to refuse a list.
 
 #include <gtest/gtest.h>
 
@@ -24,7 +24,7 @@ std::string repeated(std::string_view text, std::size_t count) {
   return all;
 }
 
-/// What was wrong with the bytes; empty where nothing was.
+/// What was wrong with the bytes; empty if nothing was.
 std::string errorOf(std::string_view bytes) { return readPropertyList(bytes).error; }
 
 TEST(PropertyListLinuxTest, TheTextFormIsRefused) {
@@ -202,7 +202,7 @@ TEST(PropertyListLinuxTest, SixteenMegabytesMayComeOfAConversion) {
   EXPECT_EQ(errorOf(latin1 + std::string(room + 1, '\xe9') + end), "more than 16 MB");
 }
 
-/// A hundred thousand attributes, each of another name.
+/// A hundred thousand attributes, each with a name of its own.
 std::string manyAttributes() {
   std::string attributes;
   for (int number = 0; number < 100'000; ++number) {
@@ -220,8 +220,8 @@ TEST(PropertyListLinuxTest, MarkupWithoutEndIsRefused) {
   }
 }
 
-/// Reads the list with no more than 64 MB to take, and ends the process: with success if the list
-/// was refused for another reason than that.
+/// Reads the list with at most 64 MB more memory, and ends the process. Exits with success if the
+/// list was refused for another reason than lack of memory.
 [[noreturn]] void refuseWithin64MB(const std::string& bytes) {
   limitMemoryTo64MB();
   const std::string error = errorOf(bytes);

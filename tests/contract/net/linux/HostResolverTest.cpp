@@ -1,5 +1,5 @@
-// Hosts with several addresses, and what the machine's own addresses have to do with it: in a
-// process with a hosts file and a network of its own.
+// Hosts with several addresses, and how the machine's own addresses affect the answer. The tests
+// run in a process with a hosts file and a network of its own.
 
 #include <arpa/inet.h>
 #include <gtest/gtest.h>
@@ -40,7 +40,7 @@ bool putInPlaceOfHosts(const std::string& file) {
          mount(file.c_str(), "/etc/hosts", nullptr, MS_BIND, nullptr) == 0;
 }
 
-/// A network of its own in which the machine has one address, of IPv4.
+/// Moves this process into a network in which the machine has a single address, of IPv4.
 bool leaveAllNetworksButIpv4() {
   if (unshare(CLONE_NEWNET) == -1) return false;
   ifreq request{};

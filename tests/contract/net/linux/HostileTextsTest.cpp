@@ -1,4 +1,4 @@
-// How much memory texts may cost that nobody types.
+// How much memory the texts that nobody types may cost.
 
 #include <gtest/gtest.h>
 
@@ -12,14 +12,14 @@
 namespace launcher {
 namespace {
 
-/// A million bytes of a text again and again.
+/// The text repeated until it has at least a million bytes.
 std::string million(std::string_view text) {
   std::string all;
   while (all.size() < 1'000'000) all += text;
   return all;
 }
 
-/// Asks all that is asked of a typed text, with no more than 64 MB to take, and ends the process:
+/// Makes every check of a typed text with at most 64 MB more memory, and ends the process. Exits
 /// with success if there was an answer.
 [[noreturn]] void judgeWithin64MB(const std::string& text) {
   const auto detector = makeLinkDetector();

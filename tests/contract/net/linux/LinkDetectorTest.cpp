@@ -6,7 +6,7 @@
 #include "net/LinkDetector.h"
 #include "tests/contract/net/FoundLink.h"
 
-// Where nothing is known of the platform's detector: what ours decides.
+// What our detector decides where the platform's behaviour is unknown.
 namespace launcher {
 namespace {
 
@@ -198,8 +198,8 @@ TEST(LinkDetectorLinuxTest, LongInternationalNamesAreNone) {
   EXPECT_EQ(foundLink("https://" + repeated("\u00fc", 70)), "none");
 }
 
-// One label of a million letters, no two neighbours alike: what the conversion to Punycode takes
-// longest for.
+// One label of a million letters, no two neighbours alike. The conversion to Punycode takes longest
+// for it.
 TEST(LinkDetectorLinuxTest, HostileInternationalNamesTakeLinearTime) {
   std::u16string text = u"https://";
   for (int i = 0; i < 1'000'000; ++i) text.push_back(static_cast<char16_t>(0x9FFF - i % 20'000));
@@ -312,8 +312,8 @@ TEST(LinkDetectorLinuxTest, ReadsLongLinks) {
   EXPECT_EQ(foundLink(many + "://"), "none");
 }
 
-// Each of these took one or another finder a time that grows with the square of its length; here
-// a minute or more would pass.
+// For each of these texts, some finder took a time that grows with the square of the length. Here
+// that would be a minute or more.
 TEST(LinkDetectorLinuxTest, HostileTextsTakeLinearTime) {
   constexpr LinkCase kCases[] = {
       {"a.", "none"},

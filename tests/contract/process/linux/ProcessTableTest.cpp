@@ -23,7 +23,7 @@ ProcessId search(std::string_view name) {
   return ProcessHelpers::getRunningProcess(name, *makeProcessTable());
 }
 
-/// A start of a name that no other process on the machine has.
+/// The beginning of a name that no other process on the machine has.
 std::string own() { return "zl" + std::to_string(getpid()); }
 
 /// A child of this name that has ended and that nobody has waited for yet.
@@ -94,7 +94,7 @@ TEST(ProcTableTest, ASearchKeepsNoDescriptor) {
   EXPECT_EQ(openDescriptors(), before);
 }
 
-/// In a process of its own, which may be crippled.
+/// Each test runs in a process of its own, which it may cripple.
 class ProcTableDeathTest : public testing::Test {
  protected:
   ProcTableDeathTest() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-// Takes the place of the product's header where diagnostics are tested: it keeps what it is handed.
+// Replaces the product's header in the tests of diagnostics: it keeps what it is handed.
 namespace launcher {
 
 struct Diagnostic {

@@ -1,8 +1,8 @@
 #pragma once
 
-// GNUstep's Foundation with the child processes of macOS's: its own tell nobody of output and end
-// as they come, and change the whole process. These hold no more than they must, so that a use
-// after the end is seen.
+// GNUstep's Foundation with child processes like macOS's. GNUstep's own report neither output nor
+// exit when it comes, and change the state of the whole process. These hold nothing longer than
+// they must, so that a use after the end shows.
 
 #include_next <Foundation/Foundation.h>
 
@@ -43,7 +43,7 @@ struct StandInChild;
 - (void)waitUntilExit;
 @end
 
-/// The bytes that the file system knows a file by, which GNUstep's URLs do not tell.
+/// The bytes by which the file system knows a file. GNUstep's NSURL does not give them.
 @interface NSURL (FileSystemRepresentation)
 - (BOOL)getFileSystemRepresentation:(char*)buffer maxLength:(NSUInteger)length;
 @end

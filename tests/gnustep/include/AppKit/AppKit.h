@@ -8,7 +8,7 @@
 #undef __weak
 #define __weak
 
-// Names that came later.
+// Newer names that GNUstep lacks.
 #define NSEventMaskAny NSAnyEventMask
 #define NSEventTypeKeyDown NSKeyDown
 

@@ -90,7 +90,7 @@ TEST(AttachedImagesToolTest, ReportsThatItsReaderHasGone) {
   EXPECT_TRUE(contentOf(folder.file("errors")).starts_with("attached-images: the output: "));
 }
 
-/// An image file, attached and mounted by the test; skipped where that is impossible.
+/// An image file that the test attaches and mounts. Skips the test if that is impossible.
 class AttachedImagesLinuxTest : public testing::Test {
  protected:
   void SetUp() override {
@@ -114,8 +114,8 @@ class AttachedImagesLinuxTest : public testing::Test {
   std::string image() const { return folder_.file("image.dmg"); }
   bool makeSquashImage() const { return shell("mksquashfs content image.dmg -quiet"); }
 
-  /// What the tool lists for the image: "device" or "device=mount point" in lines, sorted as
-  /// listed.
+  /// What the tool lists for the image: lines of "device" or "device=mount point", in the tool's
+  /// order.
   static std::string entities(const std::string& image) {
     const ToolRun run = runTool("info -plist");
     const PropertyListReading reading = readPropertyList(run.output);
@@ -127,7 +127,7 @@ class AttachedImagesLinuxTest : public testing::Test {
     return text;
   }
 
-  /// The whole search by an application that lies in a folder.
+  /// The whole search, made by an application that lies in `folder`.
   std::optional<std::string> search(const std::string& folder) {
     bundle_.folder = folder + "/VorxLauncher.app";
     const auto attribute = makeOriginAttribute();

@@ -16,8 +16,8 @@
 
 namespace launcher {
 
-/// An image attached to a loop device, detached in the end. The kernel detaches it as well where
-/// the test dies.
+/// An image attached to a loop device, and detached at the end. If the test dies, the kernel
+/// detaches it.
 class AttachedLoop {
  public:
   explicit AttachedLoop(const std::string& image) {
@@ -39,14 +39,14 @@ class AttachedLoop {
     if (device_ != -1) close(device_);
   }
 
-  /// Why it could not be attached; empty where it was.
+  /// Why it could not be attached; empty if it was.
   const std::string& error() const { return error_; }
 
   /// Such as "/dev/loop0".
   const std::string& device() const { return path_; }
 
-  /// Makes a partition of whole megabytes known to the kernel, whether or not there is a table of
-  /// them. False where the kernel refuses.
+  /// Makes a partition known to the kernel, whether or not the image has a partition table. `start`
+  /// and `length` are in megabytes. False if the kernel refuses.
   bool addPartition(int number, int start, int length) const {
     blkpg_partition partition{};
     partition.start = static_cast<long long>(start) << 20;
@@ -78,7 +78,7 @@ class AttachedLoop {
   std::string error_;
 };
 
-/// A device mounted at a folder, which is made for it; unmounted in the end.
+/// A device mounted at a folder. Makes the folder first, and unmounts the device at the end.
 class MountedFolder {
  public:
   MountedFolder(const std::string& device, const std::string& type, const std::string& folder,
@@ -92,7 +92,7 @@ class MountedFolder {
     if (mounted_) umount2(folder_.c_str(), MNT_DETACH);
   }
 
-  /// Why it could not be mounted; empty where it was.
+  /// Why it could not be mounted; empty if it was.
   const std::string& error() const { return error_; }
 
  private:

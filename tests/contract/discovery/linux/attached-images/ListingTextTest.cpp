@@ -1,4 +1,4 @@
-// The list that the tool prints, read by others.
+// The list that the tool prints, read by other readers.
 
 #include <gtest/gtest.h>
 
@@ -14,7 +14,7 @@
 namespace launcher {
 namespace {
 
-/// The path of the first image as Python reads it; empty where it reads no list.
+/// The path of the first image as Python reads it; empty if Python reads no list.
 std::string pathReadByPython(const std::string& list) {
   const ScratchFolder folder;
   std::ofstream(folder.file("list")) << list;
