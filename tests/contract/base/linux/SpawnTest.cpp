@@ -347,6 +347,14 @@ class SpawnDeathTest : public testing::Test {
     setrlimit(resource, &limits);
   }
 
+  /// No other run of these tests uses this user, not even one with process identifiers of its own.
+  static uid_t userWithoutProcesses() {
+    struct stat processes {};
+    stat("/proc/self/ns/pid", &processes);
+    return static_cast<uid_t>(1'000'000 + processes.st_ino % 100'000 * 10'000 +
+                              static_cast<ino_t>(getpid()) % 10'000);
+  }
+
   static bool starts(const char* path = "/bin/true") {
     const auto child = spawn({.path = path});
     if (child != nullptr) child->waitUntilExit();
@@ -359,7 +367,7 @@ class SpawnDeathTest : public testing::Test {
 TEST_F(SpawnDeathTest, WithoutProcessesGivesNullAndLeavesNothing) {
   if (geteuid() != 0) GTEST_SKIP() << "needs root, to become a user with no process";
   const auto run = [] {
-    const auto user = static_cast<uid_t>(1'000'000 + getpid());
+    const uid_t user = userWithoutProcesses();
     bool passed = setresuid(user, user, user) == 0;
     limit(RLIMIT_NPROC, lastingThreads);  // this process alone
     passed = passed && !starts();
