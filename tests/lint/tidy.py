@@ -1,5 +1,7 @@
 #!/usr/bin/env python3
-"""Checks that the source follows .clang-tidy.
+"""Checks that the sources in some folders follow .clang-tidy.
+
+Usage: tidy.py FOLDER...
 
 Checks a file again only after a change to the file, to a header of ours that it reaches, to its compile
 command or to the lists of checks.
@@ -16,8 +18,9 @@ import sys
 from arrows import ROOT, includes
 
 LISTS = [ROOT / ".clang-tidy", ROOT / "tests/.clang-tidy"]
-COMMANDS = ROOT / "build/lint"
-REMEMBERED = COMMANDS / "passed"
+BUILD = ROOT / "build/lint"
+COMMANDS = BUILD / "commands"
+REMEMBERED = BUILD / "passed"
 
 
 def output_of(*command):
@@ -44,11 +47,12 @@ def fingerprint(path, command, habits):
 
 
 def compiled():
-    """Our own files that the build compiles, each with its compile command."""
-    for entry in json.loads((COMMANDS / "compile_commands.json").read_text()):
-        path = pathlib.Path(entry["file"]).resolve()
-        if path.is_relative_to(ROOT) and not path.is_relative_to(ROOT / "build"):
-            yield path, entry["command"]
+    """How the build compiles each file. Some are part of several programs; once is enough."""
+    entries = json.loads((BUILD / "compile_commands.json").read_text())
+    once = {pathlib.Path(entry["file"]).resolve(): entry for entry in entries}
+    COMMANDS.mkdir(exist_ok=True)
+    (COMMANDS / "compile_commands.json").write_text(json.dumps(list(once.values())))
+    return {path: entry["command"] for path, entry in once.items()}
 
 
 def check(path, mark):
@@ -64,14 +68,16 @@ def check(path, mark):
     return True
 
 
-def main():
+def main(folders):
     output_of("cmake", "--preset", "lint")
     REMEMBERED.mkdir(exist_ok=True)
     habits = output_of("clang-tidy", "--version") + b"".join(path.read_bytes() for path in LISTS)
-    marks = {path: REMEMBERED / fingerprint(path, command, habits) for path, command in compiled()}
+    marks = {path: REMEMBERED / fingerprint(path, command, habits)
+             for path, command in compiled().items()
+             if any(path.is_relative_to(ROOT / folder) for folder in folders)}
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
         return 0 if all(list(pool.map(check, marks.keys(), marks.values()))) and marks else 1
 
 
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(main(sys.argv[1:]))
