@@ -3,22 +3,17 @@
 #include <csignal>
 #include <cstdio>
 #include <exception>
-#include <optional>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <system_error>
 #include <vector>
 
-#include "discovery/linux/attached-images/AttachedImageList.h"
-#include "discovery/linux/attached-images/KernelFile.h"
-#include "discovery/linux/attached-images/ListingText.h"
-#include "discovery/linux/attached-images/LoopDevices.h"
-#include "discovery/linux/attached-images/MountTable.h"
+#include "discovery/linux/XmlText.h"
+#include "discovery/linux/attached-images/MountedImages.h"
 
 namespace {
 
-using launcher::AttachedImage;
+using launcher::MountedImage;
 using Arguments = std::vector<std::string_view>;
 
 constexpr int kSucceeded = 0;
@@ -26,17 +21,26 @@ constexpr int kFailed = 1;
 constexpr int kWronglyCalled = 2;
 
 constexpr std::string_view kHelp =
-    "Lists the disk images that are attached to loop devices, and where they are mounted.\n"
+    "Lists the disk images that are attached to loop devices and mounted.\n"
     "\n"
-    "Usage: attached-images info           as a text for reading\n"
-    "       attached-images info -plist    as a property list\n"
+    "Usage: attached-images info -plist    as a property list\n"
     "       attached-images --help         this help\n";
 
-std::vector<AttachedImage> attachedImages() {
-  const std::optional<std::string> mounts = launcher::readKernelFile("/proc/self/mountinfo");
-  if (!mounts) throw std::runtime_error("cannot read the mount table");
-  return launcher::attachedImages(launcher::readLoopDevices("/sys/class/block"),
-                                  launcher::parseMountTable(*mounts));
+std::string entry(std::string_view key, std::string_view text) {
+  return "<key>" + std::string(key) + "</key><string>" + launcher::xmlText(text) + "</string>\n";
+}
+
+std::string record(const MountedImage& image) {
+  return "<dict>\n" + entry("image-path", image.path) +
+         "<key>system-entities</key><array><dict>\n" + entry("dev-entry", image.device) +
+         entry("mount-point", image.mountPoint) + "</dict></array>\n</dict>\n";
+}
+
+std::string listing() {
+  std::string records;
+  for (const MountedImage& image : launcher::mountedImages()) records += record(image);
+  return launcher::xmlPropertyList("<dict><key>images</key><array>\n" + records +
+                                   "</array></dict>");
 }
 
 void print(std::string_view text) {
@@ -46,10 +50,8 @@ void print(std::string_view text) {
 }
 
 int run(const Arguments& arguments) {
-  if (arguments == Arguments{"info"}) {
-    print(tableOf(attachedImages()));
-  } else if (arguments == Arguments{"info", "-plist"}) {
-    print(propertyListOf(attachedImages()));
+  if (arguments == Arguments{"info", "-plist"}) {
+    print(listing());
   } else if (arguments == Arguments{"--help"}) {
     print(kHelp);
   } else {

@@ -82,8 +82,8 @@ class AttachedLoop {
 class MountedFolder {
  public:
   MountedFolder(const std::string& device, const std::string& type, const std::string& folder,
-                unsigned long flags = MS_RDONLY)
-      : folder_(folder), mounted_(mountAt(device, type, folder, flags)) {
+                unsigned long flags = MS_RDONLY, const std::string& options = "")
+      : folder_(folder), mounted_(mountAt(device, type, folder, flags, options)) {
     if (!mounted_) error_ = std::strerror(errno);
   }
   MountedFolder(const MountedFolder&) = delete;
@@ -97,9 +97,9 @@ class MountedFolder {
 
  private:
   static bool mountAt(const std::string& device, const std::string& type, const std::string& folder,
-                      unsigned long flags) {
+                      unsigned long flags, const std::string& options) {
     std::filesystem::create_directories(folder);
-    return mount(device.c_str(), folder.c_str(), type.c_str(), flags, nullptr) == 0;
+    return mount(device.c_str(), folder.c_str(), type.c_str(), flags, options.c_str()) == 0;
   }
 
   std::string folder_;
