@@ -35,7 +35,6 @@ endfunction()
 
 set(own_programs "${bundle}/VorxLauncher" "${bundle_programs}/attached-images")
 look_for_libraries_in(VorxLauncher lib)
-look_for_libraries_in(attached-images ../../lib)
 if(NOT VEXLINK)
   list(APPEND own_programs "${bundle_programs}/vexlink")
   look_for_libraries_in(sample-viewer ../../lib)

@@ -10,7 +10,8 @@ import unittest
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 APPLICATION = ROOT / "build/VorxLauncher.app"
-PROGRAMS = ["VorxLauncher", "Resources/bin/vexlink", "Resources/bin/attached-images"]
+WITH_A_WINDOW = ["VorxLauncher", "Resources/bin/vexlink"]
+LISTING_TOOL = "Resources/bin/attached-images"
 MAKE_IMAGE = ROOT / "packaging/linux/make-image"
 MOST_BYTES = 35_000_000
 
@@ -30,10 +31,14 @@ def executables_and_libraries(application):
             if file.is_file() and file.read_bytes()[:4] == b"\x7fELF"]
 
 
+def needed_by(file):
+    """The names of the libraries that a file links to."""
+    return set(re.findall(r"\(NEEDED\).*\[(.*)\]", output_of("readelf", "-dW", file)))
+
+
 def wanting(application):
     """The libraries that the application needs, but neither carries nor leaves to the machine."""
-    needed = {name for file in executables_and_libraries(application)
-              for name in re.findall(r"\(NEEDED\).*\[(.*)\]", output_of("readelf", "-dW", file))}
+    needed = set().union(*map(needed_by, executables_and_libraries(application)))
     carried = {file.name for file in (application / "lib").iterdir()}
     return needed - carried - left_to_the_machine()
 
@@ -83,7 +88,7 @@ class LibrariesTest(unittest.TestCase):
 
     def test_a_copy_of_the_application_takes_its_own_libraries(self):
         with copy_of_the_application() as copy:
-            for program in PROGRAMS:
+            for program in WITH_A_WINDOW:
                 taken = dict(re.findall(r"(\S+) => (\S+)", output_of("ldd", copy / program)))
                 for file in (APPLICATION / "lib").iterdir():
                     if file.name in taken:
@@ -92,18 +97,22 @@ class LibrariesTest(unittest.TestCase):
                                              copy / "lib" / file.name)
 
     def test_what_has_a_window_takes_some_of_them(self):
-        for program in PROGRAMS[:2]:
+        for program in WITH_A_WINDOW:
             with self.subTest(program=program):
                 self.assertIn("VorxLauncher.app", output_of("ldd", APPLICATION / program))
+
+    def test_the_listing_tool_takes_the_machines_alone(self):
+        self.assertLessEqual(needed_by(APPLICATION / LISTING_TOOL), left_to_the_machine())
+        self.assertNotIn("VorxLauncher.app", output_of("ldd", APPLICATION / LISTING_TOOL))
 
     def test_a_viewer_of_somebody_else_is_not_told_of_our_qt(self):
         with copy_of_the_application() as copy:
             output_of(ROOT / "packaging/linux/carry", "qmake6", copy, copy / "VorxLauncher",
-                      copy / "Resources/bin/attached-images")
+                      copy / LISTING_TOOL)
             self.assertEqual([str(conf.relative_to(copy)) for conf in copy.rglob("qt.conf")], ["qt.conf"])
 
     def test_qt_finds_its_plugins(self):
-        for program in PROGRAMS[:2]:
+        for program in WITH_A_WINDOW:
             conf = (APPLICATION / program).with_name("qt.conf").read_text()
             prefix = re.search("^Prefix = (.*)$", conf, re.MULTILINE).group(1)
             with self.subTest(program=program):
