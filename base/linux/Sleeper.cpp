@@ -1,24 +1,20 @@
 #include "base/Sleeper.h"
 
-#include <cerrno>
-#include <cmath>
-#include <ctime>
+#include <chrono>
+#include <thread>
 
 namespace launcher {
 namespace {
 
-class NanoSleeper : public Sleeper {
+class ThreadSleeper : public Sleeper {
  public:
   void sleep(double seconds) override {
-    const double whole = std::floor(seconds);
-    timespec rest{static_cast<time_t>(whole), static_cast<long>((seconds - whole) * 1e9)};
-    while (nanosleep(&rest, &rest) == -1 && errno == EINTR) {
-    }
+    std::this_thread::sleep_for(std::chrono::duration<double>(seconds));
   }
 };
 
 }  // namespace
 
-std::unique_ptr<Sleeper> makeSleeper() { return std::make_unique<NanoSleeper>(); }
+std::unique_ptr<Sleeper> makeSleeper() { return std::make_unique<ThreadSleeper>(); }
 
 }  // namespace launcher

@@ -1,30 +1,24 @@
 #include "discovery/Semaphore.h"
 
-#include <condition_variable>
-#include <mutex>
+#include <semaphore.h>
+
+#include <cerrno>
 
 namespace launcher {
 
 struct Semaphore::State {
-  std::mutex mutex;
-  std::condition_variable changed;
-  int count = 0;
+  sem_t semaphore{};
 };
 
-Semaphore::Semaphore() : state_(std::make_unique<State>()) {}
+Semaphore::Semaphore() : state_(std::make_unique<State>()) { sem_init(&state_->semaphore, 0, 0); }
 
-Semaphore::~Semaphore() = default;
+Semaphore::~Semaphore() { sem_destroy(&state_->semaphore); }
 
-void Semaphore::signal() {
-  const std::lock_guard lock(state_->mutex);
-  ++state_->count;
-  state_->changed.notify_one();
-}
+void Semaphore::signal() { sem_post(&state_->semaphore); }
 
 void Semaphore::wait() {
-  std::unique_lock lock(state_->mutex);
-  state_->changed.wait(lock, [this] { return state_->count > 0; });
-  --state_->count;
+  while (sem_wait(&state_->semaphore) == -1 && errno == EINTR) {
+  }
 }
 
 }  // namespace launcher
