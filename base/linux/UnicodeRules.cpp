@@ -1,7 +1,7 @@
 #include "base/UnicodeRules.h"
 
-#include <unicode/ubrk.h>
-#include <unicode/unorm2.h>
+#include <unicode/brkiter.h>
+#include <unicode/normalizer2.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -12,38 +12,32 @@
 namespace launcher {
 namespace {
 
-struct CloseIterator {
-  void operator()(UBreakIterator* iterator) const { ubrk_close(iterator); }
-};
-
-std::int32_t icuLength(std::u16string_view units) {
-  constexpr std::size_t longest = std::numeric_limits<std::int32_t>::max();
-  return static_cast<std::int32_t>(std::min(units.size(), longest));
+/// Refers to the units and does not copy them.
+icu::UnicodeString icuText(std::u16string_view units) {
+  constexpr std::size_t kLongest = std::numeric_limits<std::int32_t>::max();
+  return {false, units.data(), static_cast<std::int32_t>(std::min(units.size(), kLongest))};
 }
 
 }  // namespace
 
 std::size_t graphemeClusterCount(std::u16string_view units) {
   UErrorCode status = U_ZERO_ERROR;
-  const std::unique_ptr<UBreakIterator, CloseIterator> iterator(
-      ubrk_open(UBRK_CHARACTER, "", units.data(), icuLength(units), &status));
+  const std::unique_ptr<icu::BreakIterator> iterator(
+      icu::BreakIterator::createCharacterInstance(icu::Locale::getRoot(), status));
   if (U_FAILURE(status)) return units.size();
+  const icu::UnicodeString text = icuText(units);  // the iterator refers to it
+  iterator->setText(text);
   std::size_t count = 0;
-  while (ubrk_next(iterator.get()) != UBRK_DONE) ++count;
+  while (iterator->next() != icu::BreakIterator::DONE) ++count;
   return count;
 }
 
 std::u16string decomposition(std::u16string_view units) {
   UErrorCode status = U_ZERO_ERROR;
-  const UNormalizer2* nfd = unorm2_getNFDInstance(&status);
-  const std::int32_t needed =
-      unorm2_normalize(nfd, units.data(), icuLength(units), nullptr, 0, &status);
-  if (status != U_BUFFER_OVERFLOW_ERROR) return std::u16string(units);
-
-  std::u16string result(static_cast<std::size_t>(needed), u'\0');
-  status = U_ZERO_ERROR;
-  unorm2_normalize(nfd, units.data(), icuLength(units), result.data(), needed, &status);
-  return result;
+  const icu::Normalizer2* nfd = icu::Normalizer2::getNFDInstance(status);
+  if (U_FAILURE(status)) return std::u16string(units);
+  const icu::UnicodeString result = nfd->normalize(icuText(units), status);
+  return {result.getBuffer(), static_cast<std::size_t>(result.length())};
 }
 
 }  // namespace launcher
