@@ -1,32 +1,34 @@
 #include "base/PercentEncoding.h"
 
+#include <charconv>
+
 namespace launcher {
 namespace {
 
-constexpr ByteSet kHexBytes{kHexDigits};
+constexpr std::size_t kEscapeLength = 3;
 
-unsigned hexValue(char digit) {
-  const auto place = static_cast<unsigned>(kHexDigits.find(digit));
-  return place < 16 ? place : place - 6;
+void append(std::string& text, char byte, const ByteSet& kept) {
+  if (kept.holds(byte)) {
+    text.push_back(byte);
+  } else {
+    const auto value = static_cast<unsigned char>(byte);
+    text.append({'%', kHexDigits[value >> 4U], kHexDigits[value & 15U]});
+  }
 }
 
 }  // namespace
 
-bool beginsWithEscape(std::string_view text) {
-  return text.size() >= 3 && text[0] == '%' && kHexBytes.holds(text[1]) && kHexBytes.holds(text[2]);
+std::optional<char> leadingEscape(std::string_view text) {
+  if (text.size() < kEscapeLength || text[0] != '%') return std::nullopt;
+  unsigned value = 0;
+  const char* end = text.data() + kEscapeLength;
+  if (std::from_chars(text.data() + 1, end, value, 16).ptr != end) return std::nullopt;
+  return static_cast<char>(value);
 }
 
 std::string escaped(std::string_view text, const ByteSet& kept) {
   std::string result;
-  result.reserve(text.size());
-  for (const char byte : text) {
-    if (kept.holds(byte)) {
-      result.push_back(byte);
-    } else {
-      const auto value = static_cast<unsigned char>(byte);
-      result.append({'%', kHexDigits[value >> 4U], kHexDigits[value & 15U]});
-    }
-  }
+  for (const char byte : text) append(result, byte, kept);
   return result;
 }
 
@@ -34,22 +36,32 @@ std::string escapedKeepingEscapes(std::string_view text, const ByteSet& kept) {
   std::string result;
   result.reserve(text.size());
   while (!text.empty()) {
-    const bool escape = beginsWithEscape(text);
-    const std::string_view piece = text.substr(0, escape ? 3 : 1);
-    result += escape ? std::string(piece) : escaped(piece, kept);
-    text.remove_prefix(piece.size());
+    const bool escape = leadingEscape(text).has_value();
+    if (escape) {
+      result += text.substr(0, kEscapeLength);
+    } else {
+      append(result, text.front(), kept);
+    }
+    text.remove_prefix(escape ? kEscapeLength : 1);
   }
   return result;
 }
 
+bool isEscaped(std::string_view text, const ByteSet& kept) {
+  while (!text.empty()) {
+    const bool isKept = kept.holds(text.front());
+    if (!isKept && !leadingEscape(text)) return false;
+    text.remove_prefix(isKept ? 1 : kEscapeLength);
+  }
+  return true;
+}
+
 std::string unescaped(std::string_view text) {
   std::string bytes;
-  bytes.reserve(text.size());
   while (!text.empty()) {
-    const bool escape = beginsWithEscape(text);
-    bytes.push_back(escape ? static_cast<char>(hexValue(text[1]) << 4U | hexValue(text[2]))
-                           : text[0]);
-    text.remove_prefix(escape ? 3 : 1);
+    const std::optional<char> escape = leadingEscape(text);
+    bytes.push_back(escape.value_or(text.front()));
+    text.remove_prefix(escape ? kEscapeLength : 1);
   }
   return bytes;
 }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,6 +21,11 @@ class ByteSet {
 
   constexpr bool holds(char byte) const { return members_[static_cast<unsigned char>(byte)]; }
 
+  /// Whether the set holds every byte of a text.
+  constexpr bool holdsAll(std::string_view text) const {
+    return std::all_of(text.begin(), text.end(), [this](char byte) { return holds(byte); });
+  }
+
  private:
   std::array<bool, 256> members_{};
 };
@@ -27,8 +34,9 @@ inline constexpr std::string_view kLetters = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefgh
 inline constexpr std::string_view kDigits = "0123456789";
 inline constexpr std::string_view kHexDigits = "0123456789ABCDEFabcdef";
 
-/// Whether the text begins with "%" and two hexadecimal digits.
-bool beginsWithEscape(std::string_view text);
+/// The byte that the escape at the text's beginning stands for: "%" and two hexadecimal digits.
+/// Absent if there is none.
+std::optional<char> leadingEscape(std::string_view text);
 
 /// The text with every byte outside `kept` escaped.
 ///
@@ -39,6 +47,9 @@ std::string escaped(std::string_view text, const ByteSet& kept);
 ///
 ///     escapedKeepingEscapes("a b%20%", {"ab"})   -> "a%20b%20%25"
 std::string escapedKeepingEscapes(std::string_view text, const ByteSet& kept);
+
+/// Whether the text consists of escapes and bytes of `kept`.
+bool isEscaped(std::string_view text, const ByteSet& kept);
 
 /// The text with its escapes decoded. A "%" that begins no escape stays.
 ///

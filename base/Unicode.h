@@ -35,8 +35,9 @@ std::string utf8(char32_t point);
 /// The bytes with each ill-formed sequence replaced by U+FFFD.
 std::string repairedUtf8(std::string_view bytes);
 
-/// Whether all bytes are below 0x80.
+/// Whether all bytes or units are below 0x80.
 bool isAscii(std::string_view text);
+bool isAscii(std::u16string_view units);
 
 /// The text with ASCII capitals in lower case; other characters stay.
 std::string asciiLowerCase(std::string_view text);

@@ -36,10 +36,6 @@ void append(std::u16string& units, char32_t point) {
   }
 }
 
-bool isAscii(std::u16string_view units) {
-  return std::all_of(units.begin(), units.end(), [](char16_t unit) { return unit < 0x80; });
-}
-
 }  // namespace
 
 std::u16string utf16(std::string_view text) {
@@ -80,6 +76,10 @@ std::string repairedUtf8(std::string_view bytes) {
 bool isAscii(std::string_view text) {
   return std::all_of(text.begin(), text.end(),
                      [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
+
+bool isAscii(std::u16string_view units) {
+  return std::all_of(units.begin(), units.end(), [](char16_t unit) { return unit < 0x80; });
 }
 
 std::string asciiLowerCase(std::string_view text) {

@@ -15,9 +15,7 @@ bool isWebAddress(std::string_view text) {
 std::optional<Url> Url::repaired(std::string_view text) {
   if (auto url = parse(text)) return url;
   if (!isWebAddress(text)) return std::nullopt;
-  const UrlParts parts = splitUrl(text);
-  const std::size_t pathAndTail = parts.path.size() + parts.tail.size();
-  const std::string_view front = text.substr(0, text.size() - pathAndTail);
+  const std::string_view front = splitUrl(text).front;
   auto url = parse(std::string(front) + escapedTail(text.substr(front.size())));
   if (!url || url->host().value_or("").empty()) return std::nullopt;
   return url;

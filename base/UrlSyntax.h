@@ -15,13 +15,12 @@ inline constexpr std::string_view kSubDelimiters = "!$&'()*+,;=";
 
 /// Every part but the scheme may also hold escapes.
 inline constexpr ByteSet kSchemeBytes{kLetters, kDigits, "+-."};
-inline constexpr ByteSet kUserInfoBytes{kLetters, kDigits, kUnreservedMarks, kSubDelimiters, ":"};
-inline constexpr ByteSet kHostNameBytes{kLetters, kDigits, kUnreservedMarks, kSubDelimiters};
-inline constexpr ByteSet kPathBytes{kLetters, kDigits, kUnreservedMarks, kSubDelimiters, ":@/"};
-inline constexpr ByteSet kQueryBytes{kLetters, kDigits, kUnreservedMarks, kSubDelimiters, ":@/?"};
+inline constexpr ByteSet kAuthorityBytes{kLetters, kDigits, kUnreservedMarks, kSubDelimiters, ":"};
+inline constexpr ByteSet kTailBytes{kLetters, kDigits, kUnreservedMarks, kSubDelimiters, ":@/?"};
 
 /// The parts that a text has, without the marks between them.
 struct UrlParts {
+  std::string_view front;  ///< everything before the path: scheme and authority, with their marks
   std::optional<std::string_view> scheme;
   std::optional<std::string_view> authority;  ///< credentials, host and port
   std::string_view path;

@@ -9,6 +9,8 @@
 namespace launcher {
 namespace {
 
+namespace fs = std::filesystem;
+
 /// A semicolon is escaped, as in the desktop's own file URLs.
 constexpr ByteSet kFilePathBytes{kLetters, kDigits, "-._~!$&'()*+,=:@/"};
 
@@ -36,19 +38,13 @@ std::optional<Url> Url::parse(std::string_view text) {
 }
 
 Url Url::ofFile(std::string_view path) {
-  std::string absolute;
-  if (!path.starts_with('/')) {
-    std::error_code ignored;
-    absolute = std::filesystem::current_path(ignored).native() + "/";
-  }
-  absolute += path;
-  return Url("file://" + escaped(withoutTrailingSeparators(absolute), kFilePathBytes));
+  std::error_code ignored;
+  const fs::path absolute = "/" / fs::current_path(ignored) / path;
+  return Url("file://" + escaped(withoutTrailingSeparators(absolute.native()), kFilePathBytes));
 }
 
 std::optional<std::string> Url::scheme() const {
-  const UrlParts parts = splitUrl(text_);
-  if (!parts.scheme) return std::nullopt;
-  return std::string(*parts.scheme);
+  return std::optional<std::string>(splitUrl(text_).scheme);
 }
 
 std::optional<std::string> Url::host() const {
@@ -66,12 +62,9 @@ std::string Url::filePath() const {
 /// A relative path that loses its only component becomes "./", since it must not be empty.
 Url Url::deletingLastPathComponent() const {
   const UrlParts parts = splitUrl(text_);
-  const std::size_t pathAndTail = parts.path.size() + parts.tail.size();
-  std::string text = text_.substr(0, text_.size() - pathAndTail);
   std::string path = pathWithoutLastComponent(parts.path);
-  const bool isRelative = !parts.scheme && !parts.authority;
-  if (isRelative && path.empty()) path = parts.path.empty() ? "../" : "./";
-  return Url(text + path + std::string(parts.tail));
+  if (parts.front.empty() && path.empty()) path = parts.path.empty() ? "../" : "./";
+  return Url(std::string(parts.front) + path + std::string(parts.tail));
 }
 
 }  // namespace launcher

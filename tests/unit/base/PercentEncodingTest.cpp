@@ -21,6 +21,16 @@ TEST(PercentEncodingTest, KeepsTheEscapesThatAreThere) {
   EXPECT_EQ(escapedKeepingEscapes("%2%20%zz", kKept), "%25%32%20%25zz");
 }
 
+TEST(PercentEncodingTest, KnowsWhatNeedsNoEscape) {
+  constexpr ByteSet kKept{kLetters};
+  for (const std::string_view text : {"", "a", "%20", "a%2fz"}) {
+    EXPECT_TRUE(isEscaped(text, kKept)) << text;
+  }
+  for (const std::string_view text : {" ", "a1", "%", "%2", "%2g", "a%20 "}) {
+    EXPECT_FALSE(isEscaped(text, kKept)) << text;
+  }
+}
+
 TEST(PercentEncodingTest, ReadsEscapesOfEitherCase) {
   EXPECT_EQ(unescaped(""), "");
   EXPECT_EQ(unescaped("a%20b"), "a b");
@@ -35,13 +45,12 @@ TEST(PercentEncodingTest, LeavesWhatIsNoEscape) {
   EXPECT_EQ(unescaped("%2g%g2"), "%2g%g2");
 }
 
-TEST(PercentEncodingTest, KnowsTheBeginningOfAnEscape) {
-  EXPECT_TRUE(beginsWithEscape("%aF"));
-  EXPECT_TRUE(beginsWithEscape("%09 and more"));
-  EXPECT_FALSE(beginsWithEscape(""));
-  EXPECT_FALSE(beginsWithEscape("%0"));
-  EXPECT_FALSE(beginsWithEscape("a%09"));
-  EXPECT_FALSE(beginsWithEscape("%0 9"));
+TEST(PercentEncodingTest, ReadsTheEscapeAtTheBeginning) {
+  EXPECT_EQ(leadingEscape("%aF"), '\xaf');
+  EXPECT_EQ(leadingEscape("%09 and more"), '\t');
+  for (const std::string_view text : {"", "%", "%0", "a%09", "%0 9", "%-1", "%+1", "% 1", "%0x1"}) {
+    EXPECT_EQ(leadingEscape(text), std::nullopt) << text;
+  }
 }
 
 }  // namespace

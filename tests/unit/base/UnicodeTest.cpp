@@ -141,6 +141,9 @@ TEST(UnicodeTest, AsciiEndsBelow0x80) {
   EXPECT_TRUE(isAscii("\0\x01 ~\x7f"sv));
   EXPECT_FALSE(isAscii("\x80"));
   EXPECT_FALSE(isAscii("a\xff"));
+  EXPECT_TRUE(isAscii(u"\0\x01 ~\x7f"sv));
+  EXPECT_FALSE(isAscii(u"a\u0080"));
+  EXPECT_FALSE(isAscii(u"\uffff"));
 }
 
 TEST(UnicodeTest, AsciiIsToldAtEveryPlaceOfALongText) {

@@ -12,21 +12,22 @@ struct SplitCase {
 
 TEST(UrlSyntaxTest, SplitsAnyText) {
   const SplitCase kCases[] = {
-      {"", {std::nullopt, std::nullopt, "", ""}},
-      {"https://u@h:80/a/b?c#d", {"https", "u@h:80", "/a/b", "?c#d"}},
-      {"https://h", {"https", "h", "", ""}},
-      {"https://h?q", {"https", "h", "", "?q"}},
-      {"https://h#f?g", {"https", "h", "", "#f?g"}},
-      {"https:", {"https", std::nullopt, "", ""}},
-      {"https:///a", {"https", "", "/a", ""}},
-      {"//h/a", {std::nullopt, "h", "/a", ""}},
-      {"mailto:a@b", {"mailto", std::nullopt, "a@b", ""}},
-      {"/a:b//c", {std::nullopt, std::nullopt, "/a:b//c", ""}},
-      {"?a:b", {std::nullopt, std::nullopt, "", "?a:b"}},
-      {":a", {"", std::nullopt, "a", ""}},
+      {"", {"", std::nullopt, std::nullopt, "", ""}},
+      {"https://u@h:80/a/b?c#d", {"https://u@h:80", "https", "u@h:80", "/a/b", "?c#d"}},
+      {"https://h", {"https://h", "https", "h", "", ""}},
+      {"https://h?q", {"https://h", "https", "h", "", "?q"}},
+      {"https://h#f?g", {"https://h", "https", "h", "", "#f?g"}},
+      {"https:", {"https:", "https", std::nullopt, "", ""}},
+      {"https:///a", {"https://", "https", "", "/a", ""}},
+      {"//h/a", {"//h", std::nullopt, "h", "/a", ""}},
+      {"mailto:a@b", {"mailto:", "mailto", std::nullopt, "a@b", ""}},
+      {"/a:b//c", {"", std::nullopt, std::nullopt, "/a:b//c", ""}},
+      {"?a:b", {"", std::nullopt, std::nullopt, "", "?a:b"}},
+      {":a", {":", "", std::nullopt, "a", ""}},
   };
   for (const auto& [text, parts] : kCases) {
     const UrlParts found = splitUrl(text);
+    EXPECT_EQ(found.front, parts.front) << text;
     EXPECT_EQ(found.scheme, parts.scheme) << text;
     EXPECT_EQ(found.authority, parts.authority) << text;
     EXPECT_EQ(found.path, parts.path) << text;
