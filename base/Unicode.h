@@ -29,9 +29,6 @@ std::u16string utf16(std::string_view text);
 /// The text in UTF-8; a lone surrogate becomes U+FFFD.
 std::string utf8(std::u16string_view units);
 
-/// One code point in UTF-8. It must be no surrogate and at most U+10FFFF.
-std::string utf8(char32_t point);
-
 /// The bytes with each ill-formed sequence replaced by U+FFFD.
 std::string repairedUtf8(std::string_view bytes);
 

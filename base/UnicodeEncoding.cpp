@@ -1,30 +1,72 @@
 #include <algorithm>
+#include <array>
 
-#include "base/CodePoints.h"
 #include "base/Unicode.h"
 
 namespace launcher {
 namespace {
 
-constexpr char32_t kReplacement = 0xFFFD;
+/// A code point and its length in bytes or units. An ill-formed sequence becomes U+FFFD; its length
+/// is that of the part that could have begun a well-formed one.
+struct CodePoint {
+  char32_t value = 0xFFFD;
+  std::size_t length = 1;
+};
 
-void append(std::string& text, char32_t point) {
-  const auto add = [&text](char32_t byte) { text.push_back(static_cast<char>(byte)); };
-  if (point < 0x80) {
-    add(point);
-  } else if (point < 0x800) {
-    add(0xC0U | point >> 6U);
-    add(0x80U | (point & 0x3FU));
-  } else if (point < 0x10000) {
-    add(0xE0U | point >> 12U);
-    add(0x80U | (point >> 6U & 0x3FU));
-    add(0x80U | (point & 0x3FU));
-  } else {
-    add(0xF0U | point >> 18U);
-    add(0x80U | (point >> 12U & 0x3FU));
-    add(0x80U | (point >> 6U & 0x3FU));
-    add(0x80U | (point & 0x3FU));
+/// What may follow a lead byte: the number of further bytes, and the range of the first of them.
+/// The narrower ranges exclude overlong forms, surrogates and values above U+10FFFF.
+struct Lead {
+  std::size_t following = 0;
+  char32_t lowest = 0x80;
+  char32_t highest = 0xBF;
+};
+
+/// A byte that leads no sequence has nothing that may follow it.
+Lead leadOf(char32_t byte) {
+  if (byte < 0xC2 || byte > 0xF4) return {};
+  if (byte < 0xE0) return {1};
+  if (byte < 0xF0) return {2, byte == 0xE0 ? 0xA0U : 0x80U, byte == 0xED ? 0x9FU : 0xBFU};
+  return {3, byte == 0xF0 ? 0x90U : 0x80U, byte == 0xF4 ? 0x8FU : 0xBFU};
+}
+
+CodePoint firstCodePoint(std::string_view utf8) {
+  const auto byteAt = [utf8](std::size_t at) { return static_cast<unsigned char>(utf8[at]); };
+  if (byteAt(0) < 0x80) return {byteAt(0)};
+  Lead lead = leadOf(byteAt(0));
+  if (lead.following == 0) return {};
+
+  char32_t point = byteAt(0) & (0x3FU >> lead.following);
+  for (std::size_t at = 1; at <= lead.following; ++at) {
+    if (at == utf8.size() || byteAt(at) < lead.lowest || byteAt(at) > lead.highest) {
+      return {.length = at};
+    }
+    point = point << 6U | (byteAt(at) & 0x3FU);
+    lead = {lead.following};
   }
+  return {point, lead.following + 1};
+}
+
+bool isLeadSurrogate(char16_t unit) { return unit >= 0xD800 && unit < 0xDC00; }
+bool isTrailSurrogate(char16_t unit) { return unit >= 0xDC00 && unit < 0xE000; }
+
+CodePoint firstCodePoint(std::u16string_view utf16) {
+  if (isLeadSurrogate(utf16[0]) && utf16.size() > 1 && isTrailSurrogate(utf16[1])) {
+    return {0x10000U + ((utf16[0] & 0x3FFU) << 10U | (utf16[1] & 0x3FFU)), 2};
+  }
+  if (isLeadSurrogate(utf16[0]) || isTrailSurrogate(utf16[0])) return {};
+  return {utf16[0]};
+}
+
+/// The lead byte tells the number of further bytes, which hold six bits each. `point` must be no
+/// surrogate and at most U+10FFFF.
+void append(std::string& text, char32_t point) {
+  constexpr std::array<char32_t, 4> kLimits{0x80, 0x800, 0x10000, 0x110000};
+  constexpr std::array<char32_t, 4> kLeads{0x00, 0xC0, 0xE0, 0xF0};
+  const auto add = [&text](char32_t byte) { text.push_back(static_cast<char>(byte)); };
+  std::size_t following = 0;
+  while (point >= kLimits[following]) ++following;
+  add(kLeads[following] | point >> 6 * following);
+  while (following-- > 0) add(0x80U | (point >> 6 * following & 0x3FU));
 }
 
 void append(std::u16string& units, char32_t point) {
@@ -36,51 +78,38 @@ void append(std::u16string& units, char32_t point) {
   }
 }
 
-}  // namespace
-
-std::u16string utf16(std::string_view text) {
-  if (isAscii(text)) return {text.begin(), text.end()};
-  std::u16string units;
-  units.reserve(text.size());
-  while (!text.empty()) {
-    const CodePoint point = firstCodePoint(text);
-    append(units, point.value.value_or(kReplacement));
-    text.remove_prefix(point.length);
-  }
-  return units;
-}
-
-std::string utf8(std::u16string_view units) {
+template <class Text, class View>
+Text converted(View units) {
   if (isAscii(units)) return {units.begin(), units.end()};
-  std::string text;
+  Text text;
   text.reserve(units.size());
   while (!units.empty()) {
     const CodePoint point = firstCodePoint(units);
-    append(text, point.value.value_or(kReplacement));
+    append(text, point.value);
     units.remove_prefix(point.length);
   }
   return text;
 }
 
-std::string utf8(char32_t point) {
-  std::string text;
-  append(text, point);
-  return text;
+template <class View>
+bool isBelow0x80(View units) {
+  return std::all_of(units.begin(), units.end(),
+                     [](auto unit) { return unit >= 0 && unit < 0x80; });
 }
 
-std::string repairedUtf8(std::string_view bytes) {
-  if (isUtf8(bytes)) return std::string(bytes);
-  return utf8(utf16(bytes));
-}
+}  // namespace
 
-bool isAscii(std::string_view text) {
-  return std::all_of(text.begin(), text.end(),
-                     [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
-}
+std::u16string utf16(std::string_view text) { return converted<std::u16string>(text); }
 
-bool isAscii(std::u16string_view units) {
-  return std::all_of(units.begin(), units.end(), [](char16_t unit) { return unit < 0x80; });
-}
+std::string utf8(std::u16string_view units) { return converted<std::string>(units); }
+
+std::string repairedUtf8(std::string_view bytes) { return utf8(utf16(bytes)); }
+
+bool isUtf8(std::string_view bytes) { return repairedUtf8(bytes) == bytes; }
+
+bool isAscii(std::string_view text) { return isBelow0x80(text); }
+
+bool isAscii(std::u16string_view units) { return isBelow0x80(units); }
 
 std::string asciiLowerCase(std::string_view text) {
   std::string lower(text);
@@ -88,15 +117,6 @@ std::string asciiLowerCase(std::string_view text) {
     if (byte >= 'A' && byte <= 'Z') byte = static_cast<char>(byte - 'A' + 'a');
   }
   return lower;
-}
-
-bool isUtf8(std::string_view bytes) {
-  while (!bytes.empty()) {
-    const CodePoint point = firstCodePoint(bytes);
-    if (!point.value) return false;
-    bytes.remove_prefix(point.length);
-  }
-  return true;
 }
 
 }  // namespace launcher

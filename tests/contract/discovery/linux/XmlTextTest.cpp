@@ -10,6 +10,7 @@
 #include "discovery/PropertyList.h"
 #include "discovery/linux/XmlText.h"
 #include "tests/contract/ScratchFolder.h"
+#include "tests/contract/base/CodePointNotation.h"
 
 namespace launcher {
 namespace {
@@ -45,8 +46,9 @@ TEST(XmlTextReadersTest, EveryCharacterIsReadBackOrReplaced) {
   std::string expected;
   for (char32_t point = 1; point <= 0x10FFFF; ++point) {
     if (point >= 0xD800 && point <= 0xDFFF) continue;
-    text += utf8(point);
-    expected += isHoldable(point) ? utf8(point) : "\ufffd";
+    const std::string character = utf8(unitsOf(point));
+    text += character;
+    expected += isHoldable(point) ? character : "\ufffd";
   }
   const std::string list = xmlPropertyList("<string>" + xmlText(text) + "</string>");
   EXPECT_TRUE(textReadByUs(list) == expected) << "our reader sees another text";
