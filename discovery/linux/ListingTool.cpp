@@ -35,19 +35,14 @@ class OutputReader {
  private:
   void run() {
     std::array<char, 65536> buffer{};
-    while (awaitOutput()) {
-      const ssize_t size = read(pipe_.number(), buffer.data(), buffer.size());
-      if (size == 0 || (size < 0 && errno != EINTR)) return;
-      if (size > 0) handler_({buffer.data(), static_cast<std::size_t>(size)});
-    }
-  }
-
-  /// False once the reader is told to stop.
-  bool awaitOutput() const {
     std::array<pollfd, 2> events{{{pipe_.number(), POLLIN, 0}, {stop_.number(), POLLIN, 0}}};
-    while (poll(events.data(), events.size(), -1) == -1 && errno == EINTR) {
+    while (true) {
+      if (poll(events.data(), events.size(), -1) == -1 && errno == EINTR) continue;
+      if (events[1].revents != 0) return;
+      const ssize_t size = read(pipe_.number(), buffer.data(), buffer.size());
+      if (size <= 0) return;
+      handler_({buffer.data(), static_cast<std::size_t>(size)});
     }
-    return events[1].revents == 0;
   }
 
   Descriptor pipe_;

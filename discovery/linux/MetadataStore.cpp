@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
@@ -40,26 +39,20 @@ bool hasSessionBus() {
   return !folder.empty() && std::filesystem::exists(folder + "/bus", ignored);
 }
 
-/// Waits for output. False if none comes before the deadline.
-bool awaitOutput(const Descriptor& pipe, Clock::time_point deadline) {
-  pollfd event{pipe.number(), POLLIN, 0};
-  while (true) {
-    const auto left =
-        std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
-    if (left.count() <= 0) return false;
-    const int ready = poll(&event, 1, static_cast<int>(left.count()));
-    if (ready != -1 || errno != EINTR) return ready == 1;
-  }
-}
-
 /// Everything that a pipe holds up to its end. Absent if that takes too long or is too much.
 std::optional<std::string> outputOf(const Descriptor& pipe, Clock::time_point deadline) {
   std::string output;
   std::array<char, 4096> buffer{};
-  while (output.size() < kLongestOutput && awaitOutput(pipe, deadline)) {
+  pollfd event{pipe.number(), POLLIN, 0};
+  while (output.size() < kLongestOutput) {
+    const auto left =
+        std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
+    if (left.count() <= 0) break;
+    if (poll(&event, 1, static_cast<int>(left.count())) != 1) continue;
     const ssize_t size = read(pipe.number(), buffer.data(), buffer.size());
     if (size == 0) return output;
-    if (size > 0) output.append(buffer.data(), static_cast<std::size_t>(size));
+    if (size < 0) break;
+    output.append(buffer.data(), static_cast<std::size_t>(size));
   }
   return std::nullopt;
 }
