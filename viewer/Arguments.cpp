@@ -11,6 +11,11 @@ std::string description(const Arguments& arguments) {
          ", resource folder " + arguments.resourceFolder;
 }
 
+std::string message(const Arguments& arguments) {
+  return "The remote-control viewer would be given:\n\nHost: " + arguments.host +
+         "\nIP address: " + arguments.ipAddress + "\nResource folder: " + arguments.resourceFolder;
+}
+
 std::optional<Arguments> parseArguments(int argc, const char* const* argv) {
   const std::span<const char* const> texts(argv, static_cast<std::size_t>(argc));
   if (texts.size() != 7) return std::nullopt;

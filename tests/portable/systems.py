@@ -66,13 +66,11 @@ class System:
 
 
 def process_named(name):
-    """The process of this name, as soon as there is one."""
-    def found():
-        for file in pathlib.Path("/proc").glob("[0-9]*/comm"):
-            with contextlib.suppress(OSError):
-                if file.read_text().strip() == name:
-                    return file.parent
-    return wait_until(found, f"{name} runs")
+    """The process of this name; None if there is none."""
+    for file in pathlib.Path("/proc").glob("[0-9]*/comm"):
+        with contextlib.suppress(OSError):
+            if file.read_text().strip() == name:
+                return file.parent
 
 
 def arguments_of(process):
@@ -91,9 +89,11 @@ def has_window(name):
 
 
 def press_until_launched():
-    """Presses Return until the launch: before the location is found it does nothing."""
+    """Presses Return until the viewer runs: before the location is found it does nothing, and later it
+    would close the viewer."""
     def launched():
-        subprocess.run(["xdotool", "key", "Return"], check=True)
+        if process_named("vexlink") is None:
+            subprocess.run(["xdotool", "key", "Return"], check=True)
         with contextlib.suppress(subprocess.TimeoutExpired):
             return subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--class", "^vexlink$"],
                                   stdout=subprocess.PIPE, timeout=3).returncode == 0

@@ -5,10 +5,10 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QMessageBox>
 #include <cstdio>
 
 #include "viewer/Arguments.h"
-#include "viewer/linux/SampleWindow.h"
 
 namespace {
 
@@ -18,18 +18,19 @@ void waitWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString
   for (;;) pause();
 }
 
-int showWindow(char* program, const viewer::Arguments& arguments) {
-  int count = 1;
-  qInstallMessageHandler(waitWithoutDisplay);
-  QApplication application(count, &program);
-  qInstallMessageHandler(nullptr);
+/// Shows the launcher's icon and the arguments until the window is closed.
+void show(const viewer::Arguments& arguments) {
+  const QIcon icon(QString::fromStdString(arguments.resourceFolder + "/VorxLauncher.png"));
+  constexpr int iconSize = 48;
+  QApplication::setWindowIcon(icon);
 
-  // The launcher's icon.
-  QApplication::setWindowIcon(
-      QIcon(QString::fromStdString(arguments.resourceFolder + "/VorxLauncher.png")));
-  viewer::SampleWindow window(arguments);
-  window.show();
-  return QApplication::exec();
+  QMessageBox box;
+  box.setWindowTitle(QStringLiteral("Sample Viewer"));
+  box.setIconPixmap(icon.pixmap(iconSize));
+  box.setTextFormat(Qt::PlainText);
+  box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  box.setText(QString::fromStdString(viewer::message(arguments)));
+  box.exec();
 }
 
 }  // namespace
@@ -42,5 +43,11 @@ int main(int argc, char** argv) {
   }
   std::puts(viewer::description(*arguments).c_str());
   std::fflush(stdout);
-  return showWindow(argv[0], *arguments);
+
+  argc = 1;  // the toolkit would take words that look like its own options
+  qInstallMessageHandler(waitWithoutDisplay);
+  const QApplication application(argc, argv);
+  qInstallMessageHandler(nullptr);
+  show(*arguments);
+  return 0;
 }

@@ -7,30 +7,34 @@
 #include <string>
 
 #include "viewer/Arguments.h"
-#import "viewer/mac/SampleWindow.h"
 
 namespace {
 
-/// Shows the launcher's icon, if there is one.
-void takeIcon(NSApplication* application, const viewer::Arguments& arguments) {
-  const std::string path = arguments.resourceFolder + "/VorxLauncher.icns";
-  NSString* file = [NSString stringWithUTF8String:path.c_str()];
-  NSImage* icon = file != nil ? [[[NSImage alloc] initWithContentsOfFile:file] autorelease] : nil;
-  if (icon != nil) [application setApplicationIconImage:icon];
+NSString* textOf(const std::string& bytes) {
+  NSString* text = [NSString stringWithUTF8String:bytes.c_str()];
+  return text != nil ? text : @"(not readable as text)";
 }
 
-void showWindow(const viewer::Arguments& arguments) {
-  @autoreleasepool {
-    NSApplication* application = [NSApplication sharedApplication];
-    // A program outside a bundle gets no Dock icon and no menu unless it asks for them.
-    [application setActivationPolicy:NSApplicationActivationPolicyRegular];
-    takeIcon(application, arguments);
-    SampleWindow* window = [[[SampleWindow alloc] initWithArguments:arguments] autorelease];
-    [application setDelegate:window];
-    [window show];
-    [application activateIgnoringOtherApps:YES];
-    [application run];
-  }
+/// The launcher's icon; nil if there is none.
+NSImage* iconIn(const std::string& folder) {
+  NSString* file = textOf(folder + "/VorxLauncher.icns");
+  return [[[NSImage alloc] initWithContentsOfFile:file] autorelease];
+}
+
+/// Shows the launcher's icon and the arguments until the window is closed.
+void show(const viewer::Arguments& arguments) {
+  NSApplication* application = [NSApplication sharedApplication];
+  // A program outside a bundle gets no Dock icon unless it asks for one.
+  [application setActivationPolicy:NSApplicationActivationPolicyRegular];
+  [application setApplicationIconImage:iconIn(arguments.resourceFolder)];
+
+  NSAlert* alert = [[[NSAlert alloc] init] autorelease];
+  [alert setMessageText:@"Sample Viewer"];
+  [alert setInformativeText:textOf(viewer::message(arguments))];
+  // A modal window would otherwise keep the person from logging out.
+  [[alert window] setPreventsApplicationTerminationWhenModal:NO];
+  [application activateIgnoringOtherApps:YES];
+  [alert runModal];
 }
 
 }  // namespace
@@ -41,9 +45,11 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "usage: %s %s\n", argv[0], viewer::kUsage);
     return 2;
   }
-
   std::puts(viewer::description(*arguments).c_str());
   std::fflush(stdout);
-  showWindow(*arguments);
+
+  @autoreleasepool {
+    show(*arguments);
+  }
   return 0;
 }

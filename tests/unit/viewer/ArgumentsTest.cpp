@@ -30,6 +30,12 @@ TEST(ViewerArgumentsTest, AreToldInOneLine) {
             "sample viewer: host h, IP address ::1, resource folder /a b");
 }
 
+TEST(ViewerArgumentsTest, AreShownOneBelowTheOther) {
+  EXPECT_EQ(message({.host = "h", .ipAddress = "::1", .resourceFolder = "/a b"}),
+            "The remote-control viewer would be given:\n\n"
+            "Host: h\nIP address: ::1\nResource folder: /a b");
+}
+
 TEST(ViewerArgumentsTest, OthersAreRefused) {
   EXPECT_FALSE(parse({}));
   EXPECT_FALSE(parse({"viewer"}));

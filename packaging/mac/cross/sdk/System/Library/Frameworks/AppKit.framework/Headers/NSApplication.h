@@ -7,7 +7,6 @@ NS_ASSUME_NONNULL_BEGIN
 
 @class NSImage;
 @class NSWindow;
-@protocol NSApplicationDelegate;
 
 typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
   NSApplicationActivationPolicyRegular,
@@ -26,7 +25,6 @@ FOUNDATION_EXPORT @interface NSResponder : NSObject <NSCoding>
 
 FOUNDATION_EXPORT @interface NSApplication : NSResponder
 @property(class, readonly, retain) NSApplication* sharedApplication;
-@property(nullable, assign) id<NSApplicationDelegate> delegate;
 @property(readonly, getter=isActive) BOOL active;
 @property(null_resettable, retain) NSImage* applicationIconImage;
 @property(nullable, readonly, assign) NSWindow* modalWindow;
@@ -42,7 +40,6 @@ FOUNDATION_EXPORT @interface NSApplication : NSResponder
                           dequeue:(BOOL)dequeue;
 - (void)postEvent:(NSEvent*)event atStart:(BOOL)atStart;
 - (void)sendEvent:(NSEvent*)event;
-- (void)run;
 - (void)terminate:(nullable id)sender;
 @end
 

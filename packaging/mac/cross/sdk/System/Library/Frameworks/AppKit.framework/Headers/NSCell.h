@@ -9,11 +9,8 @@ NS_ASSUME_NONNULL_BEGIN
 @class NSFont;
 @class NSText;
 
-typedef NS_ENUM(NSUInteger, NSLineBreakMode) { NSLineBreakByCharWrapping = 1 };
-
 FOUNDATION_EXPORT @interface NSCell : NSObject <NSCopying, NSCoding>
 @property(nullable, retain) NSFont* font;
-@property NSLineBreakMode lineBreakMode;
 @property(readonly, copy) NSAttributedString* attributedStringValue;
 - (NSRect)titleRectForBounds:(NSRect)bounds;
 - (void)drawInteriorWithFrame:(NSRect)frame inView:(NSView*)view;

@@ -33,10 +33,6 @@ FOUNDATION_EXPORT @interface NSButton : NSControl
 FOUNDATION_EXPORT @interface NSTextField : NSControl
 @property(nullable, assign) id<NSTextFieldDelegate> delegate;
 @property(getter=isEditable) BOOL editable;
-@property(getter=isSelectable) BOOL selectable;
-@property(getter=isBezeled) BOOL bezeled;
-@property(getter=isBordered) BOOL bordered;
-@property BOOL drawsBackground;
 @property(nullable, copy) NSColor* textColor;
 @end
 

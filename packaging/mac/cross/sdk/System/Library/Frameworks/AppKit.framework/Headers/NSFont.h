@@ -6,7 +6,6 @@ NS_ASSUME_NONNULL_BEGIN
 
 FOUNDATION_EXPORT @interface NSFont : NSObject
 + (NSFont*)systemFontOfSize:(CGFloat)size;
-+ (NSFont*)boldSystemFontOfSize:(CGFloat)size;
 @property(readonly) CGFloat ascender;
 @property(readonly) CGFloat descender;
 @property(readonly) CGFloat leading;

@@ -11,21 +11,8 @@ static const NSWindowLevel NSNormalWindowLevel = 0;
 static const NSWindowLevel NSFloatingWindowLevel = 3;
 static const NSWindowLevel NSModalPanelWindowLevel = 8;
 
-typedef NS_OPTIONS(NSUInteger, NSWindowStyleMask) {
-  NSWindowStyleMaskTitled = 1 << 0,
-  NSWindowStyleMaskClosable = 1 << 1,
-  NSWindowStyleMaskMiniaturizable = 1 << 2,
-};
-
-typedef NS_ENUM(NSUInteger, NSBackingStoreType) { NSBackingStoreBuffered = 2 };
-
 FOUNDATION_EXPORT @interface NSWindow : NSResponder
-- (instancetype)initWithContentRect:(NSRect)rect
-                          styleMask:(NSWindowStyleMask)style
-                            backing:(NSBackingStoreType)backing
-                              defer:(BOOL)defer;
 @property(copy) NSString* title;
-@property(getter=isReleasedWhenClosed) BOOL releasedWhenClosed;
 @property NSWindowLevel level;
 @property(nullable, retain) NSView* contentView;
 @property(nullable, retain) NSViewController* contentViewController
@@ -37,8 +24,7 @@ FOUNDATION_EXPORT @interface NSWindow : NSResponder
 @property(readonly, getter=isKeyWindow) BOOL keyWindow;
 @property(readonly, getter=isVisible) BOOL visible;
 @property(nullable, readonly, assign) NSResponder* firstResponder;
-@property(nullable, assign) NSView* initialFirstResponder;
-- (void)center;
+@property BOOL preventsApplicationTerminationWhenModal;
 - (BOOL)makeFirstResponder:(nullable NSResponder*)responder;
 - (void)orderFront:(nullable id)sender;
 - (void)orderOut:(nullable id)sender;
