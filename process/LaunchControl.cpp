@@ -40,10 +40,9 @@ std::shared_ptr<RunningProcess> LaunchControl::runningProcess() const {
   return runningProcess_;
 }
 
-std::shared_ptr<RunningProcess> LaunchControl::replaceRunningProcess(
-    std::shared_ptr<RunningProcess> process) {
+void LaunchControl::replaceRunningProcess(std::shared_ptr<RunningProcess> process) {
   const std::lock_guard lock(mutex_);
-  return std::exchange(runningProcess_, std::move(process));
+  runningProcess_.swap(process);
 }
 
 void LaunchControl::waitForOldViewer() {

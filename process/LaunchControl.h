@@ -59,8 +59,8 @@ class LaunchControl {
   std::shared_ptr<RunningProcess> runningProcess() const;
 
  private:
-  /// Returns the previous handle, so that the caller drops it outside the lock.
-  std::shared_ptr<RunningProcess> replaceRunningProcess(std::shared_ptr<RunningProcess> process);
+  /// Drops the previous handle outside the lock.
+  void replaceRunningProcess(std::shared_ptr<RunningProcess> process);
   void waitForOldViewer();
   bool viewerRuns() const;
 

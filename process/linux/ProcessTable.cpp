@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <type_traits>
+#include <utility>
 
 extern "C" {  // missing in the header before glibc 2.37
 #include <sys/pidfd.h>
@@ -36,46 +37,50 @@ std::optional<ProcessId> parseProcessId(std::string_view name) {
 /// has gone since it was listed, or is hidden from this user.
 bool isWantOfResources(int error) { return error == EMFILE || error == ENFILE || error == ENOMEM; }
 
-/// Walks the processes in /proc.
-class ProcessListing {
- public:
-  ProcessListing() : stream_(opendir(procFolder)) {}
-  ProcessListing(const ProcessListing&) = delete;
-  ProcessListing& operator=(const ProcessListing&) = delete;
-  ~ProcessListing() {
-    const int error = errno;
-    if (stream_ != nullptr) closedir(stream_);
-    errno = error;
-  }
-
-  bool isOpen() const { return stream_ != nullptr; }
-
-  /// Absent at the end, with `errno` 0, and on a failure.
-  std::optional<ProcessId> next() {
-    errno = 0;
-    while (const dirent* entry = readdir(stream_)) {
-      if (const auto pid = parseProcessId(entry->d_name)) return pid;
-    }
-    return std::nullopt;
-  }
-
-  /// Absent if the record cannot be read; `errno` says why.
-  std::optional<ProcessRecord> record(ProcessId pid) const {
-    const std::string path = std::to_string(pid) + "/comm";  // short enough to need no allocation
-    const Descriptor file(openat(dirfd(stream_), path.c_str(), O_RDONLY | O_CLOEXEC));
-    if (!file.isOpen()) return std::nullopt;
-
-    ProcessRecord record{pid, {}};
-    const ssize_t size = read(file.number(), record.command.data(), record.command.size());
-    if (size <= 0) return std::nullopt;
-    // The last byte is the line feed, or the first byte too many.
-    record.command[static_cast<std::size_t>(size) - 1] = '\0';
-    return record;
-  }
-
- private:
-  DIR* stream_;
+struct CloseFolder {
+  void operator()(DIR* folder) const { closedir(folder); }
 };
+
+/// The next process in /proc. Absent at the end, with `errno` 0, and on a failure.
+std::optional<ProcessId> nextProcess(DIR* proc) {
+  errno = 0;
+  while (const dirent* entry = readdir(proc)) {
+    if (const auto pid = parseProcessId(entry->d_name)) return pid;
+  }
+  return std::nullopt;
+}
+
+/// Absent if the record cannot be read; `errno` says why.
+std::optional<ProcessRecord> recordOf(ProcessId pid, DIR* proc) {
+  const std::string path = std::to_string(pid) + "/comm";  // short enough to need no allocation
+  const Descriptor file(openat(dirfd(proc), path.c_str(), O_RDONLY | O_CLOEXEC));
+  if (!file.isOpen()) return std::nullopt;
+
+  ProcessRecord record{pid, {}};
+  const ssize_t size = read(file.number(), record.command.data(), record.command.size());
+  if (size <= 0) return std::nullopt;
+  // The last byte is the line feed, or the first byte too many.
+  record.command[static_cast<std::size_t>(size) - 1] = '\0';
+  return record;
+}
+
+/// Fills the buffer as `fetch` does. Returns the error, or 0.
+int fill(std::byte* buffer, std::size_t& length) {
+  const std::size_t capacity = std::exchange(length, 0);
+  const std::unique_ptr<DIR, CloseFolder> proc(opendir(procFolder));
+  if (proc == nullptr) return errno;
+
+  while (const auto pid = nextProcess(proc.get())) {
+    if (capacity - length < sizeof(ProcessRecord)) return ENOMEM;
+    if (const auto record = recordOf(*pid, proc.get())) {
+      std::memcpy(buffer + length, &*record, sizeof *record);
+      length += sizeof *record;
+    } else if (isWantOfResources(errno)) {
+      return errno;
+    }
+  }
+  return errno;
+}
 
 class ProcTable : public ProcessTable {
  public:
@@ -91,23 +96,7 @@ class ProcTable : public ProcessTable {
   }
 
   int fetch(std::byte* buffer, std::size_t& length) const override {
-    ProcessListing listing;
-    if (!listing.isOpen()) return -1;
-
-    const std::size_t capacity = length;
-    length = 0;
-    while (const auto pid = listing.next()) {
-      if (capacity - length < sizeof(ProcessRecord)) {
-        errno = ENOMEM;
-        return -1;
-      }
-      if (const auto record = listing.record(*pid)) {
-        std::memcpy(buffer + length, &*record, sizeof *record);
-        length += sizeof *record;
-      } else if (isWantOfResources(errno)) {
-        return -1;
-      }
-    }
+    errno = fill(buffer, length);
     return errno == 0 ? 0 : -1;
   }
 
