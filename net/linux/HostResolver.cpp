@@ -3,20 +3,12 @@
 #include <netdb.h>
 #include <sys/socket.h>
 
-#include <cstring>
-
 namespace launcher {
 namespace {
 
 struct FreeList {
   void operator()(addrinfo* list) const { freeaddrinfo(list); }
 };
-
-SocketAddress bytesOf(const addrinfo& entry) {
-  SocketAddress bytes(entry.ai_addrlen);
-  std::memcpy(bytes.data(), entry.ai_addr, entry.ai_addrlen);
-  return bytes;
-}
 
 /// `getaddrinfo` would read an empty name as none given, and a name with a NUL only up to the NUL.
 /// Neither names a host.
@@ -49,7 +41,8 @@ class SystemResolver : public HostResolver {
 
     std::vector<SocketAddress> found;
     for (const addrinfo* entry = list.get(); entry != nullptr; entry = entry->ai_next) {
-      found.push_back(bytesOf(*entry));
+      const auto* bytes = reinterpret_cast<const std::byte*>(entry->ai_addr);
+      found.emplace_back(bytes, bytes + entry->ai_addrlen);
     }
     return found;
   }
