@@ -25,7 +25,7 @@ MAY_INCLUDE = {
 SYSTEM_HEADERS = {
     "mac": re.compile(r"(AppKit|Cocoa|CoreFoundation|CoreGraphics|CoreServices|CFNetwork|Foundation|"
                       r"QuartzCore|dispatch|mach|objc)/|sys/sysctl\.h$"),
-    "linux": re.compile(r"(X11|gio|glib|linux|unicode)(/|$)|(expat|libmount)\.h$|"
+    "linux": re.compile(r"(QtCore|X11|gio|glib|linux|unicode)(/|$)|libmount\.h$|"
                         r"sys/(epoll|inotify|pidfd|prctl|signalfd|sysmacros)\.h$"),
 }
 WINDOW_TOOLKIT = re.compile(r"Q[A-Z]\w*$")
