@@ -1,56 +1,42 @@
-#include "app/Services.h"
+#include <memory>
+
+#include "controller/LauncherController.h"
+#include "process/ProgramStarter.h"
 
 namespace launcher {
 namespace {
 
-PlatformServices* makeServices() {
-  auto* made = new PlatformServices{
-      .bundle = makeApplicationBundle(),
-      .processes = makeProcessTable(),
-      .starter = makeProgramStarter(),
-      .sleeper = makeSleeper(),
-      .resolver = makeHostResolver(),
-      .links = makeLinkDetector(),
-      .origin = makeOriginAttribute(),
-      .translations = makeTranslations(),
-      .listingTool = nullptr,
-      .mainQueue = makeMainQueue(),
+/// Never destroys it, since background work may still use it while the process ends.
+template <typename Service>
+Service& kept(std::unique_ptr<Service> made) {
+  return *made.release();
+}
+
+const ControllerServices* makeServices() {
+  const ApplicationBundle& bundle = kept(makeApplicationBundle());
+  const ProcessTable& processes = kept(makeProcessTable());
+  Sleeper& sleeper = kept(makeSleeper());
+  return new ControllerServices{
+      .bundle = bundle,
+      .resolver = kept(makeHostResolver()),
+      .links = kept(makeLinkDetector()),
+      .origin = kept(makeOriginAttribute()),
+      .processes = processes,
+      .translations = kept(makeTranslations()),
+      .listingTool = *new ListingToolMaker(makeListingToolMaker(bundle)),
+      .sleeper = sleeper,
+      .launchControl = *new LaunchControl({bundle, processes, kept(makeProgramStarter()), sleeper}),
+      .mainQueue = kept(makeMainQueue()),
   };
-  made->listingTool = makeListingToolMaker(*made->bundle);
-  return made;
 }
 
 }  // namespace
 
-const PlatformServices& platformServices() {
-  static const PlatformServices* const instance = makeServices();
-  return *instance;
-}
-
-LaunchControl& LaunchControl::sharedInstance() {
-  static auto* const instance = new LaunchControl({
-      .bundle = *platformServices().bundle,
-      .processes = *platformServices().processes,
-      .starter = *platformServices().starter,
-      .sleeper = *platformServices().sleeper,
-  });
-  return *instance;
-}
-
 const ControllerServices& controllerServices() {
-  static const auto* const instance = new ControllerServices{
-      .bundle = *platformServices().bundle,
-      .resolver = *platformServices().resolver,
-      .links = *platformServices().links,
-      .origin = *platformServices().origin,
-      .processes = *platformServices().processes,
-      .translations = *platformServices().translations,
-      .listingTool = platformServices().listingTool,
-      .sleeper = *platformServices().sleeper,
-      .launchControl = LaunchControl::sharedInstance(),
-      .mainQueue = *platformServices().mainQueue,
-  };
+  static const ControllerServices* const instance = makeServices();
   return *instance;
 }
+
+LaunchControl& LaunchControl::sharedInstance() { return controllerServices().launchControl; }
 
 }  // namespace launcher

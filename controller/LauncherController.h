@@ -35,7 +35,9 @@ struct ControllerServices {
   WorkQueue& mainQueue;
 };
 
-/// The services for the application's window. The program that links the controller defines this.
+/// The application's services. The first use makes them. They are never destroyed, since background
+/// work may still use them while the process ends. Any thread. The program that links the
+/// controller defines this.
 const ControllerServices& controllerServices();
 
 /// Makes every decision of the launcher's window.

@@ -10,7 +10,6 @@
 #include <mutex>
 
 #include "app/QuitSequence.h"
-#include "app/Services.h"
 #include "app/linux/QuitSignals.h"
 #include "controller/linux/MainWindow.h"
 #include "controller/linux/TextTables.h"
@@ -55,7 +54,7 @@ void loadToolkitTexts(QTranslator& translator) {
 void quitOnce() {
   static std::once_flag done;
   std::call_once(done, [] {
-    quitSequence(LaunchControl::sharedInstance(), *platformServices().processes, kill);
+    quitSequence(LaunchControl::sharedInstance(), controllerServices().processes, kill);
   });
 }
 
@@ -68,7 +67,7 @@ void quitAtExit() {
 }
 
 QString iconFile() {
-  return QString::fromStdString(platformServices().bundle->resourcePath().value_or("")) +
+  return QString::fromStdString(controllerServices().bundle.resourcePath().value_or("")) +
          QStringLiteral("/VorxLauncher.png");
 }
 

@@ -3,7 +3,7 @@
 #include <csignal>
 
 #include "app/QuitSequence.h"
-#include "app/Services.h"
+#include "controller/LauncherController.h"
 
 @implementation AppDelegate
 
@@ -16,7 +16,7 @@
 
 - (void)applicationWillTerminate:(NSNotification*)notification {
   launcher::quitSequence(launcher::LaunchControl::sharedInstance(),
-                         *launcher::platformServices().processes, kill);
+                         launcher::controllerServices().processes, kill);
 }
 
 - (BOOL)applicationShouldTerminateAfterLastWindowClosed:(NSApplication*)application {

@@ -10,28 +10,12 @@
 #include <csignal>
 #include <string>
 
-#include "app/Services.h"
 #import "tests/window/mac/Messages.h"
 #import "tests/window/mac/Stage.h"
 #import "tests/window/mac/Windows.h"
 
 namespace launcher {
-
-/// The services that quitting uses.
-const PlatformServices& platformServices() {
-  static const auto* const instance = [] {
-    auto* made = new PlatformServices;
-    made->processes = std::make_unique<FakeProcessTable>();
-    return made;
-  }();
-  return *instance;
-}
-
 namespace {
-
-FakeProcessTable& processesAtQuit() {
-  return dynamic_cast<FakeProcessTable&>(*platformServices().processes);
-}
 
 /// Starts a program that waits to be signalled. It does not inherit this program's blocked signals.
 pid_t startSleeper() {
@@ -53,11 +37,7 @@ pid_t startSleeper() {
 
 class AppDelegateTest : public testing::Test {
  protected:
-  void SetUp() override {
-    clearStage();
-    processesAtQuit().processes.clear();
-    processesAtQuit().searches = 0;
-  }
+  void SetUp() override { clearStage(); }
 
   void quit() {
     [delegate_
@@ -91,7 +71,6 @@ TEST_F(AppDelegateTest, FinishingTheLaunchDoesNothing) {
   EXPECT_EQ(stage().starter.starts.size(), 1U);
   EXPECT_EQ(stage().starter.starts[0].process->terminations, 0);
   EXPECT_EQ(stage().processes.searches, searches);
-  EXPECT_EQ(processesAtQuit().searches, 0);
   EXPECT_EQ(textOf([shown.controller() vorxLocation]), "");
   EXPECT_FALSE([[shown.controller() launchButton] isEnabled]);
 }
@@ -106,7 +85,7 @@ TEST_F(AppDelegateTest, QuittingStopsTheViewer) {
 
 TEST_F(AppDelegateTest, QuittingSignalsTheCompanion) {
   const pid_t companion = startSleeper();
-  processesAtQuit().processes = {processRecord(companion, "vexwatch")};
+  stage().processes.processes = {processRecord(companion, "vexwatch")};
   quit();
   int status = 0;
   ASSERT_EQ(waitpid(companion, &status, 0), companion);
