@@ -46,9 +46,9 @@ std::optional<Link> schemeLink(std::u16string_view text, Word word) {
 
 /// "name@h.com": the word is the name.
 std::optional<Link> mailLink(std::u16string_view text, Word word) {
-  const std::size_t begin =
-      std::min(word.end, word.begin + word.in(text).find_first_not_of(u"+-."));
-  const bool endsWithName = begin < word.end && text[word.end - 1] != u'.';
+  const std::u16string_view name = word.in(text);
+  const std::size_t begin = word.begin + std::min(name.size(), name.find_first_not_of(u"+-."));
+  const bool endsWithName = begin < word.end && !name.ends_with(u'.');
   if (!endsWithName || !unitIs(text, word.end, u'@')) return std::nullopt;
   const Word domain = withoutFullStops(text, wordAt(text, word.end + 1));
   if (!isBareDomain(domain.in(text))) return std::nullopt;

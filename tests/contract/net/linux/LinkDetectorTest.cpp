@@ -213,6 +213,8 @@ TEST(LinkDetectorLinuxTest, ReadsMailAddresses) {
       {"--a@a.com", "mailto:a@a.com at 2+7"},
       {"a.@a.com", "none"},
       {".@a.com", "none"},
+      {"-@a.com", "none"},
+      {"x -@a.com", "none"},
       {"@a.com", "none"},
       {"a@", "none"},
       {"a@b", "none"},
