@@ -1,9 +1,7 @@
 #include "controller/linux/WorkQueues.h"
 
-#include <QCoreApplication>
-#include <QEvent>
+#include <QObject>
 #include <deque>
-#include <mutex>
 #include <thread>
 #include <utility>
 
@@ -12,41 +10,22 @@ namespace {
 
 using Item = std::function<void()>;
 
-/// Has a queue of its own: the event loop's would run further items while one shows an alert.
 class MainQueue : public WorkQueue, private QObject {
  public:
   void add(Item item) override {
-    {
-      const std::lock_guard lock(mutex_);
-      waiting_.push_back(std::move(item));
-    }
-    wake();
+    const auto run = [this, item = std::move(item)] { runInTurn(item); };
+    QMetaObject::invokeMethod(this, run, Qt::QueuedConnection);
   }
 
  private:
-  void wake() { QCoreApplication::postEvent(this, new QEvent(QEvent::User)); }
-
-  void customEvent(QEvent*) override {
-    if (running_) return;
-    const Item item = takeNext();
-    if (!item) return;
-    running_ = true;
-    item();
-    running_ = false;
-    wake();
+  /// The event loop would run further items while one shows an alert. They wait behind it.
+  void runInTurn(const Item& item) {
+    inTurn_.push_back(item);
+    if (inTurn_.size() > 1) return;
+    for (; !inTurn_.empty(); inTurn_.pop_front()) inTurn_.front()();
   }
 
-  Item takeNext() {
-    const std::lock_guard lock(mutex_);
-    if (waiting_.empty()) return nullptr;
-    Item next = std::move(waiting_.front());
-    waiting_.pop_front();
-    return next;
-  }
-
-  bool running_ = false;  // main thread only
-  std::mutex mutex_;
-  std::deque<Item> waiting_;
+  std::deque<Item> inTurn_;  // the one that runs comes first; main thread only
 };
 
 }  // namespace
