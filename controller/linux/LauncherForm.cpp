@@ -30,66 +30,49 @@ constexpr int betweenRows = 12;
 constexpr int withinRow = 4;
 constexpr int width = 500;
 
-/// Looks texts up and makes controls that show them.
-class Maker {
- public:
-  explicit Maker(const Translations& translations) : translations_(translations) {}
+QLabel* label(const QString& text) {
+  auto* made = new QLabel(withoutMnemonic(text));
+  made->setTextFormat(Qt::PlainText);
+  made->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  return made;
+}
 
-  QString text(const LocalizableText& shown) const {
-    return QString::fromStdString(translations_(shown));
-  }
+/// A hint is smaller and paler than other texts, in any of the desktop's colours.
+QLabel* hint(const QString& text) {
+  auto* made = label(text);
+  auto* pale = new QGraphicsOpacityEffect(made);
+  pale->setOpacity(0.6);
+  made->setGraphicsEffect(pale);
+  QFont smaller = made->font();
+  smaller.setPointSizeF(smaller.pointSizeF() * 0.85);
+  made->setFont(smaller);
+  return made;
+}
 
-  QLabel* label(const LocalizableText& shown) const {
-    auto* made = new QLabel(withoutMnemonic(text(shown)));
-    made->setTextFormat(Qt::PlainText);
-    made->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    return made;
-  }
+AddressField* field(const QString& example, const QString& tip) {
+  auto* made = new AddressField(example);
+  made->setToolTip(tip);
+  return made;
+}
 
-  /// A hint is smaller and paler than other texts, in any of the desktop's colours.
-  QLabel* hint(const LocalizableText& shown) const {
-    auto* made = label(shown);
-    auto* pale = new QGraphicsOpacityEffect(made);
-    pale->setOpacity(0.6);
-    made->setGraphicsEffect(pale);
-    QFont smaller = made->font();
-    smaller.setPointSizeF(smaller.pointSizeF() * 0.85);
-    made->setFont(smaller);
-    return made;
-  }
+/// A click on the button leaves the focus in the field.
+QPushButton* button(const QString& text, const QString& tip) {
+  auto* made = new QPushButton(withoutMnemonic(text));
+  made->setToolTip(tip);
+  made->setFocusPolicy(Qt::TabFocus);
+  made->setDefault(true);
+  made->setEnabled(false);
+  return made;
+}
 
-  AddressField* field(const char* example, const LocalizableText& tip) const {
-    auto* made = new AddressField(QString::fromUtf8(example));
-    made->setToolTip(text(tip));
-    return made;
-  }
-
-  StatusLine* statusLine() const {
-    auto* made = new StatusLine({text(texts::noURL), text(texts::runningReadyToRun),
-                                 text(texts::readyToRun), text(texts::gettingIPAddress)});
-    made->say(text(texts::noURL));
-    return made;
-  }
-
-  /// A click on the button leaves the focus in the field.
-  QPushButton* launchButton() const {
-    auto* made = new QPushButton(withoutMnemonic(text(texts::launch)));
-    made->setToolTip(text(launchTip));
-    made->setFocusPolicy(Qt::TabFocus);
-    made->setDefault(true);
-    made->setEnabled(false);
-    return made;
-  }
-
- private:
-  const Translations& translations_;
-};
-
-/// Puts widgets that belong together one below the other.
-QVBoxLayout* row(const QList<QWidget*>& widgets) {
+/// A field below the label that names it.
+QVBoxLayout* labelled(const QString& text, QWidget* field) {
+  auto* name = label(text);
+  name->setBuddy(field);
   auto* made = new QVBoxLayout;
   made->setSpacing(withinRow);
-  for (QWidget* widget : widgets) made->addWidget(widget);
+  made->addWidget(name);
+  made->addWidget(field);
   return made;
 }
 
@@ -101,32 +84,31 @@ QHBoxLayout* bottomRow(const LauncherForm& form) {
   return made;
 }
 
-QLabel* naming(QLabel* label, QWidget* field) {
-  label->setBuddy(field);
-  return label;
-}
-
 }  // namespace
 
 LauncherForm layOut(QWidget& window, const Translations& translations) {
-  const Maker make(translations);
+  const auto text = [&](const LocalizableText& shown) {
+    return QString::fromStdString(translations(shown));
+  };
   const LauncherForm form{
-      .vorxLocation = make.field("https://vorx.example.com", locationTip),
-      .ipAddress = make.field("10.0.0.5", addressTip),
-      .infoLabel = make.statusLine(),
-      .launchButton = make.launchButton(),
+      .vorxLocation = field(QStringLiteral("https://vorx.example.com"), text(locationTip)),
+      .ipAddress = field(QStringLiteral("10.0.0.5"), text(addressTip)),
+      .infoLabel = new StatusLine({text(texts::noURL), text(texts::runningReadyToRun),
+                                   text(texts::readyToRun), text(texts::gettingIPAddress)}),
+      .launchButton = button(text(texts::launch), text(launchTip)),
   };
 
   auto* rows = new QVBoxLayout(&window);
   rows->setContentsMargins(margin, margin, margin, margin);
   rows->setSpacing(betweenRows);
   rows->setSizeConstraint(QLayout::SetMinAndMaxSize);
-  rows->addLayout(row({naming(make.label(locationLabel), form.vorxLocation), form.vorxLocation}));
-  rows->addLayout(row(
-      {naming(make.label(addressLabel), form.ipAddress), form.ipAddress, make.hint(addressHint)}));
+  rows->addLayout(labelled(text(locationLabel), form.vorxLocation));
+  auto* address = labelled(text(addressLabel), form.ipAddress);
+  address->addWidget(hint(text(addressHint)));
+  rows->addLayout(address);
   rows->addLayout(bottomRow(form));
 
-  window.setWindowTitle(make.text(title));
+  window.setWindowTitle(text(title));
   window.resize(window.minimumSizeHint().expandedTo({width, 0}));
   return form;
 }

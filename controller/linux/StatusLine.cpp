@@ -37,6 +37,7 @@ StatusLine::StatusLine(QStringList texts) : texts_(std::move(texts)) {
   setTextFormat(Qt::PlainText);
   setWordWrap(true);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  say(texts_.front());
 }
 
 void StatusLine::say(const QString& text) {

@@ -8,7 +8,7 @@ namespace launcher {
 /// A text of up to two lines that a screen reader speaks whenever it changes.
 class StatusLine : public QLabel {
  public:
-  /// Makes it wide enough for each of `texts` in two lines.
+  /// Shows the first of `texts`. Makes it wide enough for each of them in two lines.
   explicit StatusLine(QStringList texts);
 
   /// Shows a text. A screen reader speaks it if it differs from the last one.
