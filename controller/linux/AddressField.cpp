@@ -35,12 +35,6 @@ QPalette withoutBackground(QPalette palette) {
   return palette;
 }
 
-/// The rectangle whose border, drawn with a line of `width`, lies inside `outer`.
-QRectF lineInside(const QRectF& outer, qreal width) {
-  const qreal half = width / 2;
-  return outer.adjusted(half, half, -half, -half);
-}
-
 }  // namespace
 
 AddressField::AddressField(const QString& placeholder) {
@@ -55,16 +49,12 @@ AddressField::AddressField(const QString& placeholder) {
 
 void AddressField::setBackground(const QColor& colour) {
   if (background_ == colour) return;
-  if (!background_) blackenText();
   background_ = colour;
-  update();
-}
-
-void AddressField::blackenText() {
   QPalette readable = palette();
   readable.setColor(QPalette::Text, Qt::black);
   readable.setColor(QPalette::PlaceholderText, Qt::darkGray);
   setPalette(readable);
+  update();
 }
 
 /// Draws the border and the background, then the text above them.
@@ -72,15 +62,15 @@ void AddressField::paintEvent(QPaintEvent* event) {
   {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF field = QRectF(rect()).adjusted(focusWidth, focusWidth, -focusWidth, -focusWidth);
+    const auto inside = [this](qreal by) { return QRectF(rect()).adjusted(by, by, -by, -by); };
     if (hasFocus()) {
+      constexpr qreal radius = cornerRadius + focusWidth / 2;
       painter.setPen(QPen(palette().color(QPalette::Highlight), focusWidth));
-      painter.drawRoundedRect(lineInside(rect(), focusWidth), cornerRadius + focusWidth / 2,
-                              cornerRadius + focusWidth / 2);
+      painter.drawRoundedRect(inside(focusWidth / 2), radius, radius);
     }
     painter.setPen(QPen(Qt::black, borderWidth));
     painter.setBrush(background_ ? QBrush(*background_) : QBrush());
-    painter.drawRoundedRect(lineInside(field, borderWidth), cornerRadius, cornerRadius);
+    painter.drawRoundedRect(inside(focusWidth + borderWidth / 2), cornerRadius, cornerRadius);
   }
   QLineEdit::paintEvent(event);
 }

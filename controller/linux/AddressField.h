@@ -22,8 +22,6 @@ class AddressField : public QLineEdit {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  void blackenText();
-
   std::optional<QColor> background_;
 };
 
