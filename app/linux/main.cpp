@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <QTranslator>
 #include <array>
+#include <atomic>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -29,15 +30,20 @@ struct ToolkitArguments {
   int count = qEnvironmentVariableIsSet("QT_QPA_PLATFORM") ? 1 : 3;
 };
 
-/// Drops the toolkit's warnings, which a person could not act on, and prints its fatal errors.
-/// Without a display the toolkit would abort, so exit first.
-void handleToolkitMessage(QtMsgType type, const QMessageLogContext&, const QString& message) {
+/// Drops the toolkit's warnings, which a person could not act on, and prints its fatal errors. If
+/// it cannot start it would abort, so exit first.
+void handleToolkitMessage(QtMsgType type, const QMessageLogContext& context,
+                          const QString& message) {
+  // The fatal error does not tell why. The display's plugin warns only if it was loaded.
+  static std::atomic<bool> displayRefused = false;
+  if (qstrcmp(context.category, "qt.qpa.xcb") == 0) displayRefused = true;
   if (type != QtFatalMsg) return;
-  if (QCoreApplication::startingUp()) {
-    std::fputs("VorxLauncher: no display to show the window on\n", stderr);
-    std::_Exit(EXIT_FAILURE);
-  }
-  std::fprintf(stderr, "VorxLauncher: %s\n", qPrintable(message));
+
+  const bool starting = QCoreApplication::startingUp();
+  std::fprintf(
+      stderr, "VorxLauncher: %s\n",
+      starting && displayRefused ? "no display to show the window on" : qPrintable(message));
+  if (starting) std::_Exit(EXIT_FAILURE);
 }
 
 /// Loads the toolkit's own texts, such as a field's menu, in the window's language.

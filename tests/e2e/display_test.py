@@ -34,11 +34,22 @@ class DisplayTest(LauncherTest):
         self.assertNotEqual(self.process.wait(timeout=60), 0)
         self.assert_quit_sequence()
 
-    def test_without_one_a_line_says_so(self):
-        environment = {name: value for name, value in os.environ.items()
-                       if name not in ("DISPLAY", "WAYLAND_DISPLAY")}
-        done = subprocess.run([self.application / PROGRAM], env=environment, text=True, timeout=60,
-                              stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
+    def complaint(self, **environment):
+        """What the launcher says when it cannot start."""
+        done = subprocess.run([self.application / PROGRAM], env={**os.environ, **environment}, text=True,
+                              timeout=60, stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                               stderr=subprocess.STDOUT)
         self.assertEqual(done.returncode, 1)
-        self.assertEqual(done.stdout, "VorxLauncher: no display to show the window on\n")
+        return done.stdout
+
+    def test_without_one_a_line_says_so(self):
+        self.assertEqual(self.complaint(DISPLAY="", WAYLAND_DISPLAY=""),
+                         "VorxLauncher: no display to show the window on\n")
+
+    def test_it_is_not_blamed_for_a_missing_plugin(self):
+        (self.application / "plugins/platforms/libqxcb.so").unlink()
+        self.assertRegex(self.complaint(), "^VorxLauncher: .* no Qt platform plugin could be initialized")
+
+    def test_it_is_not_blamed_for_a_damaged_library(self):
+        next((self.application / "lib").glob("libQt6XcbQpa.so*")).write_bytes(b"")
+        self.assertRegex(self.complaint(), "^VorxLauncher: .* no Qt platform plugin could be initialized")
