@@ -13,40 +13,56 @@ bool canHold(std::uint64_t fieldSize, std::uint64_t value) {
   return fieldSize >= sizeof(value) || value >> (8U * fieldSize) == 0;
 }
 
+/// The bytes of an object, taken from their beginning.
+struct Bytes {
+  std::string_view rest;
+
+  /// The next `count` items of `size` bytes each; `size` is not 0.
+  std::string_view take(std::uint64_t count, std::uint64_t size = 1) {
+    if (count > rest.size() / size) throw UnreadableList("an object is cut off");
+    const std::string_view items = rest.substr(0, count * size);
+    rest.remove_prefix(items.size());
+    return items;
+  }
+
+  /// The number of items. The marker's lower half holds it up to 14; a larger one follows.
+  std::uint64_t takeCount(std::uint64_t low) {
+    if (low != 0xF) return low;
+    const std::uint64_t marker = bigEndian(take(1));
+    if (static_cast<ObjectKind>(marker >> 4U) != ObjectKind::integer) {
+      throw UnreadableList("a count that is no number");
+    }
+    return bigEndian(take(std::uint64_t{1} << (marker & 0xFU)));
+  }
+
+  /// What an object that holds no others has after its marker.
+  std::string_view takeContent(ObjectKind kind, std::uint64_t low) {
+    switch (kind) {
+      case ObjectKind::constant:
+        return {};
+      case ObjectKind::integer:
+      case ObjectKind::real:
+      case ObjectKind::date:
+        return take(std::uint64_t{1} << low);
+      case ObjectKind::identifier:
+        return take(low + 1);
+      case ObjectKind::data:
+      case ObjectKind::ascii:
+        return take(takeCount(low));
+      case ObjectKind::utf16:
+        return take(takeCount(low), 2);
+      default:
+        throw UnreadableList("an object of an unknown kind");
+    }
+  }
+};
+
 }  // namespace
 
 std::uint64_t bigEndian(std::string_view bytes) {
   std::uint64_t value = 0;
   for (const char byte : bytes) value = value << 8U | static_cast<unsigned char>(byte);
   return value;
-}
-
-BinaryObject::BinaryObject(std::string_view rest) : rest_(rest) {
-  const std::uint64_t marker = bigEndian(take(1));
-  kind_ = static_cast<ObjectKind>(marker >> 4U);
-  low_ = marker & 0xFU;
-}
-
-std::uint64_t BinaryObject::takeCount() {
-  if (low_ != 0xF) return low_;
-  const std::uint64_t marker = bigEndian(take(1));
-  if (static_cast<ObjectKind>(marker >> 4U) != ObjectKind::integer) {
-    throw UnreadableList("a count that is no number");
-  }
-  return bigEndian(take(std::uint64_t{1} << (marker & 0xFU)));
-}
-
-std::string_view BinaryObject::take(std::uint64_t count, std::uint64_t size) {
-  if (count > rest_.size() / size) throw UnreadableList("an object is cut off");
-  const std::string_view items = rest_.substr(0, count * size);
-  rest_.remove_prefix(items.size());
-  return items;
-}
-
-std::uint64_t References::next() {
-  const std::uint64_t reference = bigEndian(bytes_.substr(0, size_));
-  bytes_.remove_prefix(size_);
-  return reference;
 }
 
 ObjectTable::ObjectTable(std::string_view bytes) {
@@ -68,11 +84,19 @@ BinaryObject ObjectTable::object(std::uint64_t reference) const {
   if (reference >= count_) throw UnreadableList("a reference to no object");
   const std::uint64_t offset = offsetAt(reference);
   if (offset < kHeaderSize) throw UnreadableList("an object lies outside");
-  return BinaryObject(objects_.substr(offset));
-}
-
-References ObjectTable::takeReferences(BinaryObject& object, std::uint64_t count) const {
-  return {object.take(count, referenceSize_), referenceSize_};
+  Bytes bytes{objects_.substr(offset)};
+  const std::uint64_t marker = bigEndian(bytes.take(1));
+  const std::uint64_t low = marker & 0xFU;
+  const auto kind = static_cast<ObjectKind>(marker >> 4U);
+  switch (kind) {
+    case ObjectKind::array:
+    case ObjectKind::set:
+      return {kind, {}, {bytes.take(bytes.takeCount(low), referenceSize_), referenceSize_}};
+    case ObjectKind::dictionary:
+      return {kind, {}, {bytes.take(bytes.takeCount(low), 2 * referenceSize_), referenceSize_}};
+    default:
+      return {kind, bytes.takeContent(kind, low), {}};
+  }
 }
 
 void ObjectTable::check() const {

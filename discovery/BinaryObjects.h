@@ -11,6 +11,7 @@
 /// Every operation throws `UnreadableList` for bytes of another form.
 namespace launcher {
 
+/// From `array` on, the objects of a kind hold others.
 enum class ObjectKind {
   constant = 0x0,
   integer = 0x1,
@@ -28,39 +29,21 @@ enum class ObjectKind {
 /// The number in the bytes. Of more than eight bytes the last eight count.
 std::uint64_t bigEndian(std::string_view bytes);
 
-/// One object, read step by step from its marker on.
-class BinaryObject {
- public:
-  explicit BinaryObject(std::string_view rest);
+/// References to objects.
+struct References {
+  std::string_view bytes;
+  std::uint64_t width = 1;  ///< of one reference in bytes, at least 1
 
-  ObjectKind kind() const { return kind_; }
-
-  /// The marker's lower half.
-  std::uint64_t low() const { return low_; }
-
-  /// Reads the number of items. The marker holds it up to 14; a larger number follows the marker.
-  std::uint64_t takeCount();
-
-  /// Reads the bytes of the next `count` items of `size` bytes each; `size` is not 0.
-  std::string_view take(std::uint64_t count, std::uint64_t size = 1);
-
- private:
-  std::string_view rest_;
-  ObjectKind kind_ = ObjectKind::constant;
-  std::uint64_t low_ = 0;
+  std::uint64_t size() const { return bytes.size() / width; }
+  std::uint64_t operator[](std::uint64_t index) const {
+    return bigEndian(bytes.substr(index * width, width));
+  }
 };
 
-/// References to objects, read one by one.
-class References {
- public:
-  References(std::string_view bytes, std::uint64_t size) : bytes_(bytes), size_(size) {}
-
-  bool empty() const { return bytes_.empty(); }
-  std::uint64_t next();
-
- private:
-  std::string_view bytes_;
-  std::uint64_t size_;  ///< of one reference in bytes, at least 1
+struct BinaryObject {
+  ObjectKind kind = ObjectKind::constant;
+  std::string_view content;  ///< the bytes of an object that holds no others
+  References items;          ///< of a dictionary all keys, then all values
 };
 
 /// The table of offsets, and the objects before it, to which the offsets point.
@@ -69,15 +52,10 @@ class ObjectTable {
   /// `bytes` are the whole list and must outlive the table and its objects.
   explicit ObjectTable(std::string_view bytes);
 
-  std::uint64_t count() const { return count_; }
-
   /// The index of the outermost value.
   std::uint64_t top() const { return top_; }
 
   BinaryObject object(std::uint64_t reference) const;
-
-  /// Reads the next `count` references of an object.
-  References takeReferences(BinaryObject& object, std::uint64_t count) const;
 
  private:
   void check() const;

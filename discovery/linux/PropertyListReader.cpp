@@ -1,6 +1,5 @@
 #include "discovery/PropertyListReader.h"
 
-#include <optional>
 #include <string>
 #include <utility>
 
@@ -21,49 +20,46 @@ class BinaryReader {
 
  private:
   PropertyList readValue(std::uint64_t reference) const {
-    BinaryObject object = table_.object(reference);
-    switch (object.kind()) {
+    const BinaryObject object = table_.object(reference);
+    switch (object.kind) {
       case ObjectKind::ascii:
-        return readText(object, 1);
+        return readText(object.content, 1);
       case ObjectKind::utf16:
-        return readText(object, 2);
+        return readText(object.content, 2);
       case ObjectKind::array:
-        return readArray(object);
+        return {readItems(object.items)};
       case ObjectKind::dictionary:
-        return readDictionary(object);
+        return readDictionary(object.items);
       default:
         return {};
     }
   }
 
   /// A unit of one byte is a Latin-1 character, although the kind is called ASCII.
-  static PropertyList readText(BinaryObject& object, std::size_t unitSize) {
-    const std::string_view bytes = object.take(object.takeCount(), unitSize);
-    if (unitSize == 1 && isAscii(bytes)) return {std::string(bytes)};
+  static PropertyList readText(std::string_view bytes, std::size_t unitSize) {
     std::u16string units;
-    units.reserve(bytes.size() / unitSize);
     for (std::size_t at = 0; at < bytes.size(); at += unitSize) {
-      units.push_back(static_cast<char16_t>(bigEndian(bytes.substr(at, unitSize))));
+      units += static_cast<char16_t>(bigEndian(bytes.substr(at, unitSize)));
     }
     return {utf8(units)};
   }
 
-  PropertyList readArray(BinaryObject& object) const {
-    References references = table_.takeReferences(object, object.takeCount());
-    PropertyList::Array items;
-    while (!references.empty()) items.push_back(readValue(references.next()));
-    return {std::move(items)};
+  PropertyList::Array readItems(const References& items) const {
+    PropertyList::Array values;
+    for (std::uint64_t index = 0; index < items.size(); ++index) {
+      values.push_back(readValue(items[index]));
+    }
+    return values;
   }
 
-  PropertyList readDictionary(BinaryObject& object) const {
-    const std::uint64_t count = object.takeCount();
-    References keys = table_.takeReferences(object, count);
-    References values = table_.takeReferences(object, count);
+  /// Takes a dictionary with other keys for no dictionary.
+  PropertyList readDictionary(const References& items) const {
+    PropertyList::Array values = readItems(items);
+    const std::size_t count = values.size() / 2;
     PropertyList::Dictionary dictionary;
-    while (!keys.empty()) {
-      const PropertyList key = readValue(keys.next());
-      if (key.text() == nullptr) return {};
-      dictionary.emplace_back(*key.text(), readValue(values.next()));
+    for (std::size_t key = 0; key < count; ++key) {
+      if (values[key].text() == nullptr) return {};
+      dictionary.emplace_back(*values[key].text(), std::move(values[count + key]));
     }
     return {std::move(dictionary)};
   }
