@@ -1,6 +1,7 @@
 #include "controller/linux/WorkQueues.h"
 
-#include <QObject>
+#include <QCoreApplication>
+#include <QEvent>
 #include <deque>
 #include <thread>
 #include <utility>
@@ -10,17 +11,22 @@ namespace {
 
 using Item = std::function<void()>;
 
+struct ItemEvent : QEvent {
+  explicit ItemEvent(Item added) : QEvent(User), item(std::move(added)) {}
+
+  Item item;
+};
+
 class MainQueue : public WorkQueue, private QObject {
  public:
   void add(Item item) override {
-    const auto run = [this, item = std::move(item)] { runInTurn(item); };
-    QMetaObject::invokeMethod(this, run, Qt::QueuedConnection);
+    QCoreApplication::postEvent(this, new ItemEvent(std::move(item)));
   }
 
  private:
   /// The event loop would run further items while one shows an alert. They wait behind it.
-  void runInTurn(const Item& item) {
-    inTurn_.push_back(item);
+  void customEvent(QEvent* event) override {
+    inTurn_.push_back(std::move(dynamic_cast<ItemEvent&>(*event).item));
     if (inTurn_.size() > 1) return;
     for (; !inTurn_.empty(); inTurn_.pop_front()) inTurn_.front()();
   }
