@@ -2,7 +2,10 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QTimer>
+#include <chrono>
 #include <deque>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -10,6 +13,8 @@ namespace launcher {
 namespace {
 
 using Item = std::function<void()>;
+
+constexpr std::chrono::seconds untilNextTry{1};
 
 struct ItemEvent : QEvent {
   explicit ItemEvent(Item added) : QEvent(User), item(std::move(added)) {}
@@ -36,7 +41,14 @@ class MainQueue : public WorkQueue, private QObject {
 
 }  // namespace
 
-void BackgroundQueue::add(Item item) { std::thread(std::move(item)).detach(); }
+void BackgroundQueue::add(Item item) {
+  try {
+    std::thread(item).detach();
+  } catch (const std::system_error&) {
+    const auto again = [item = std::move(item)] { BackgroundQueue().add(item); };
+    QTimer::singleShot(untilNextTry, qApp, again);
+  }
+}
 
 std::unique_ptr<WorkQueue> makeMainQueue() { return std::make_unique<MainQueue>(); }
 

@@ -13,6 +13,7 @@ BUILT = pathlib.Path(__file__).resolve().parents[2] / "build/tests/e2e"
 DOUBLE = BUILT / "e2e-double"
 SLOW_RESOLVER = BUILT / "libslow-resolver.so"
 KILL_RECORDER = BUILT / "libkill-recorder.so"
+THREAD_REFUSER = BUILT / "libthread-refuser.so"
 
 
 class Record:

@@ -4,7 +4,7 @@ import shutil
 
 import doubles
 from case import LauncherTest
-from desktop.launcher import READY, RUNNING_READY
+from desktop.launcher import LOOKING_UP, READY, RUNNING_READY
 from desktop.waiting import wait_until
 from desktop.window import press, type_text
 
@@ -45,6 +45,20 @@ class LaunchTest(LauncherTest):
         self.put_viewer_in_place()
         self.press_launch()
         self.wait_for_viewer()
+
+    def test_a_launch_waits_until_the_system_has_a_thread(self):
+        no_threads = self.folder / "no threads"
+        self.start(environment={"LD_PRELOAD": str(doubles.THREAD_REFUSER),
+                                "NO_THREADS": str(no_threads)})
+        self.enter_valid()
+        no_threads.touch()
+        self.press_launch()
+        self.record.wait_for(self.process.pid, "refused")
+        self.launcher.wait_for_status(LOOKING_UP)
+
+        no_threads.unlink()
+        self.wait_for_viewer()
+        self.launcher.wait_for_status(RUNNING_READY)
 
     def test_words_on_the_command_line_are_ignored(self):
         self.start(None, "https://server.example", "--help", "-style", "none", "-platform", "none")
