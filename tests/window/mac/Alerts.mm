@@ -69,7 +69,16 @@ Texts alertButtons() {
   return titles;
 }
 
-void pressReturn() { pressReturnIn([NSApp modalWindow]); }
+/// A slow machine may lose the key while the alert is still coming up. So press it again if the
+/// same alert is still there after a while.
+void pressReturn() {
+  const NSInteger number = [[NSApp modalWindow] windowNumber];
+  pressReturnIn([NSApp modalWindow]);
+  [DuringAlert after:2
+                  do:[number] {
+                    if ([[NSApp modalWindow] windowNumber] == number) pressReturn();
+                  }];
+}
 
 void pressReturnIn(NSWindow* window) {
   NSEvent* event = [NSEvent keyEventWithType:NSEventTypeKeyDown
