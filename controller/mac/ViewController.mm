@@ -48,9 +48,9 @@ void giveLayer(NSTextField* field) {
 
 using launcher::connected;
 using launcher::toDictionary;
+using launcher::toNSStringOrNil;
 using launcher::toStdString;
 using launcher::toUrl;
-using launcher::toNSStringOrNil;
 
 @implementation ViewController
 

@@ -89,7 +89,7 @@ class ProcTable : public ProcessTable {
   int probeSize(std::size_t& length) const override {
     // The folder has one link for each process, and a few more. Counting the entries instead would
     // cost a sixth of a search.
-    struct stat proc {};
+    struct stat proc = {};
     if (stat(procFolder, &proc) == -1) return -1;
     length = proc.st_nlink * sizeof(ProcessRecord);
     return 0;

@@ -34,7 +34,7 @@ MountTable readMountTable() {
 dev_t deviceOf(libmnt_fs* mount) {
   if (std::string_view(mnt_fs_get_fstype(mount)) != "btrfs") return mnt_fs_get_devno(mount);
   const char* source = mnt_fs_get_source(mount);
-  struct stat status {};
+  struct stat status = {};
   return source != nullptr && stat(source, &status) == 0 ? status.st_rdev : 0;
 }
 
@@ -56,7 +56,7 @@ std::optional<std::string> imageOf(const Path& device) {
 /// Whether a path leads to the mount. If another one covers it, at its place or at a folder above,
 /// the path leads there. Asks no server, since it might never answer.
 bool isReachable(libmnt_fs* mount) {
-  struct statx status {};
+  struct statx status = {};
   return statx(AT_FDCWD, mnt_fs_get_target(mount), AT_NO_AUTOMOUNT | AT_STATX_DONT_SYNC,
                STATX_MNT_ID, &status) == 0 &&
          std::cmp_equal(status.stx_mnt_id, mnt_fs_get_id(mount));

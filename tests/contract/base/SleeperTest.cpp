@@ -26,8 +26,8 @@ TEST(SleeperTest, SleepsAtLeastTheGivenTime) {
 }
 
 TEST(SleeperTest, SleepsOnAfterASignal) {
-  struct sigaction ignoring {};
-  struct sigaction before {};
+  struct sigaction ignoring = {};
+  struct sigaction before = {};
   ignoring.sa_handler = [](int) {};
   sigaction(SIGUSR1, &ignoring, &before);
 

@@ -39,7 +39,7 @@ int printSignals() {
   sigset_t blocked;
   sigprocmask(SIG_SETMASK, nullptr, &blocked);
   for (int number = 1; number < NSIG; ++number) {
-    struct sigaction action {};
+    struct sigaction action = {};
     if (sigismember(&blocked, number) == 1) std::cout << "blocked " << number << '\n';
     if (sigaction(number, nullptr, &action) == 0 && action.sa_handler == SIG_IGN) {
       std::cout << "ignored " << number << '\n';

@@ -349,7 +349,7 @@ class SpawnDeathTest : public testing::Test {
 
   /// No other run of these tests uses this user, not even one with process identifiers of its own.
   static uid_t userWithoutProcesses() {
-    struct stat processes {};
+    struct stat processes = {};
     stat("/proc/self/ns/pid", &processes);
     return static_cast<uid_t>(1'000'000 + processes.st_ino % 100'000 * 10'000 +
                               static_cast<ino_t>(getpid()) % 10'000);
