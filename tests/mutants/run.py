@@ -14,7 +14,6 @@ from table import BrokenTable, read
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 COPIES = ROOT / "build" / "mutants"
-LIMIT_SECONDS = 240  # a mutant that makes the tests hang is noticed, too
 
 # The quick ones come first. A test program that notices a mutant ends with a status other than 0.
 CONTRACT = "contract-tests"
@@ -24,6 +23,11 @@ WINDOW, WINDOW_PROGRAMS = "controller/linux/", ["qt-window-tests"]
 
 def programs_for(mutant):
     return WINDOW_PROGRAMS if mutant.file.startswith(WINDOW) else PROGRAMS
+
+
+def limit_for(program):
+    """Seconds. A mutant that makes the tests hang is noticed, too."""
+    return 240 if program == CONTRACT else 30
 
 
 def filters_for(program, mutant):
@@ -75,7 +79,7 @@ class Copy:
             command.insert(0, self._root / "tests" / "runner" / "apart.py")
         try:
             return subprocess.run(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                                  stderr=subprocess.DEVNULL, timeout=LIMIT_SECONDS).returncode == 0
+                                  stderr=subprocess.DEVNULL, timeout=limit_for(program)).returncode == 0
         except subprocess.TimeoutExpired:
             return False
 
