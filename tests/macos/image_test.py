@@ -9,6 +9,7 @@ import unittest
 from product import BUNDLE, ROOT, VIEWER, build, output_of
 
 MAKE_IMAGE = ROOT / "packaging" / "mac" / "make-image"
+SEVENZIP = shutil.which("7zz") or shutil.which("7z")
 
 
 def setUpModule():
@@ -25,7 +26,7 @@ class Image(unittest.TestCase):
     def entries(self):
         """Path → mode, of everything in the image."""
         entries, path = {}, None
-        for line in output_of("7zz", "l", "-slt", "-tHFS", self.image).splitlines():
+        for line in output_of(SEVENZIP, "l", "-slt", "-tHFS", self.image).splitlines():
             if line.startswith("Path = "):
                 path = line.removeprefix("Path = ")
             elif line.startswith("Mode = "):
@@ -61,7 +62,7 @@ class Image(unittest.TestCase):
         inside = [path for path in self.entries() if path.endswith("/bin/vexlink")]
         self.assertEqual(len(inside), 1)
         self.assertEqual(self.entries()[inside[0]], "-rwxr-xr-x")
-        extracted = output_of("7zz", "e", "-so", "-tHFS", self.image, inside[0])
+        extracted = output_of(SEVENZIP, "e", "-so", "-tHFS", self.image, inside[0])
         self.assertIn("#!/bin/sh", extracted)
 
     def test_leaves_the_application_as_it_is(self):

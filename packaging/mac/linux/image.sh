@@ -1,9 +1,11 @@
 # make-image's steps on Linux. Its options are variables.
 # shellcheck shell=bash disable=SC2154
 
-for tool in xorriso 7zz python3; do
+for tool in xorriso python3; do
   command -v "$tool" >/dev/null || fail "$tool is missing; script/bootstrap installs it"
 done
+# Debian 12 and 13 have it under different names.
+sevenzip=$(command -v 7zz || command -v 7z) || fail "7zip is missing; script/bootstrap installs it"
 
 case $identity$entitlements$viewer_entitlements$notary_profile in
   -) ;;
@@ -30,7 +32,7 @@ sys.stdout.write(unicodedata.normalize("NFD", sys.stdin.read()))' | sort
 
 # Lists the image's files in the same form. Their paths begin with the volume's name.
 image_entries() {
-  7zz l -slt -tHFS "$made" | awk '
+  "$sevenzip" l -slt -tHFS "$made" | awk '
     /^Path = / { path = substr($0, 8) }
     /^Mode = / { if (sub("^[^/]*/", "", path)) print substr($0, 8), path }' | sort
 }
