@@ -15,10 +15,15 @@ class EntryTest : public WindowTest {
   }
 };
 
-TEST_F(EntryTest, ALocationIsSetAsReceivedAndIsNoEdit) {
+TEST_F(EntryTest, ALocationIsSetAsReceived) {
   open();
   window_->setVorxLocation(std::string("  https://h \u00e9\U0001F600 "));
   EXPECT_EQ(window_->vorxLocation(), "  https://h \u00e9\U0001F600 ");
+}
+
+TEST_F(EntryTest, ALocationThatIsSetIsNoEdit) {
+  open();
+  window_->setVorxLocation(std::string("https://h.example"));
   EXPECT_EQ(world_.processes.searches, 1);  // the one at the start
 }
 
