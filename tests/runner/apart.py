@@ -20,8 +20,9 @@ import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 NAMESPACES = ["--mount", "--pid", "--ipc", "--net", "--fork", "--kill-child", "--mount-proc"]
-AS_ROOT = ["unshare", *NAMESPACES]
-AS_USER = ["unshare", "--user", "--map-current-user", "--keep-caps", *NAMESPACES]
+WITH_THIS_SCRIPT = ["setpriv", "--pdeathsig", "KILL"]  # ends what runs apart, should this be killed
+AS_ROOT = [*WITH_THIS_SCRIPT, "unshare", *NAMESPACES]
+AS_USER = [*WITH_THIS_SCRIPT, "unshare", "--user", "--map-current-user", "--keep-caps", *NAMESPACES]
 WITHOUT_DISPLAY = 77
 
 
