@@ -88,6 +88,14 @@ TEST(PropertyListLinuxTest, DeclarationsAreRefused) {
   EXPECT_EQ(describedReading("<!DOCTYPE plist []><array/>"), "error");
 }
 
+TEST(PropertyListLinuxTest, UnknownEntitiesAreRefused) {
+  const std::string declaredElsewhere = "<!DOCTYPE plist SYSTEM 'a.dtd'>";
+  for (const std::string& list : {"<string>&a;</string>"s, "<array>&a;</array>"s, "<array/>&a;"s}) {
+    EXPECT_EQ(describedReading(list), "error");
+    EXPECT_EQ(describedReading(declaredElsewhere + list), "error") << list;
+  }
+}
+
 std::string entityBomb() {
   std::string bomb = "<!DOCTYPE plist [<!ENTITY e0 'bomb'>";
   for (int level = 1; level < 30; ++level) {
@@ -255,6 +263,10 @@ TEST(PropertyListLinuxDeathTest, ListsAreRefusedBeforeTheyTakeMuchMemory) {
       "<!DOCTYPE plist SYSTEM \"file:///dev/zero\"><string>&a;</string>",
       entityBomb(),
       "<!DOCTYPE plist [<!ELEMENT a " + filled("("),
+      "<!DOCTYPE plist [" + filled("<!ELEMENT a ANY>"),
+      "<!DOCTYPE plist [" + filled("<!ATTLIST a b CDATA ''>"),
+      "<!DOCTYPE plist [" + filled("<!ENTITY a ''>"),
+      "<!DOCTYPE plist [" + filled("<!NOTATION a SYSTEM ''>"),
       endless.bytes(),
       immense.bytes(),
       "<array>" + filled("<true/>"),
@@ -262,6 +274,7 @@ TEST(PropertyListLinuxDeathTest, ListsAreRefusedBeforeTheyTakeMuchMemory) {
       "<array>" + filled("<string>seventeen letters</string>"),
       "<array>" + filled("<array><true/></array>"),
       "<array>" + filled("<dict><key/><true/></dict>"),
+      "<dict>" + filled("<key/><true/>"),
       "<string>" + filled("a"),
       "<string>" + filled("&amp;"),
       "\xFF\xFE<\0a\0r\0r\0a\0y\0>\0"s + filled("<\0t\0r\0u\0e\0/\0>\0"s),
