@@ -5,6 +5,8 @@
 
 #include <Block.h>
 
+#include <atomic>
+
 #import "tests/gnustep/Methods.h"
 #import "tests/gnustep/StandIn.h"
 
@@ -12,6 +14,7 @@
 @interface BlockOperation : NSOperation {
   void (^_block)();
   BOOL _hasThread;
+  std::atomic<bool> _hasRun;  // shows the thread sanitizer an order that GNUstep's library keeps
 }
 + (instancetype)withBlock:(void (^)())block;
 @end
@@ -25,6 +28,7 @@
 }
 
 - (void)dealloc {
+  (void)_hasRun.load();
   Block_release(_block);
   [super dealloc];
 }
@@ -46,6 +50,7 @@
 
 - (void)main {
   _block();
+  _hasRun = true;
 }
 
 @end

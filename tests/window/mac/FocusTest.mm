@@ -1,6 +1,8 @@
 // Where the keys go: the focus is never lost.
 
 #include <gtest/gtest.h>
+#include <atomic>
+#include <memory>
 
 #import "controller/mac/WindowBridge.h"
 #import "tests/window/mac/Alerts.h"
@@ -121,8 +123,10 @@ TEST_F(FocusTest, ReturnGivesItBackWithTheSelection) {
   type(shown_.window(), @"https://h/");
   select(10, 0);
   stage().resolver.answer = {ipv4("192.0.2.1")};
+  const auto started = std::make_shared<std::atomic<bool>>(false);
+  stage().starter.onStart = [started] { *started = true; };
   pressReturnIn(shown_.window());
-  EXPECT_TRUE(eventually([] { return stage().starter.starts.size() == 1; }));
+  EXPECT_TRUE(eventually([&started] { return started->load(); }));
   finishWork(shown_.controller());
   EXPECT_NE([location() currentEditor], nil);
   EXPECT_TRUE(isSelected(10, 0));
